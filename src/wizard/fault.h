@@ -1,0 +1,17 @@
+// What the outside world or a limit of the system did to the player's press.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace bogenwerker {
+
+// Thrown in the middle of a gesture, caught in one place (FormsRuntime::perform), which then puts every form back to
+// where it was. what() is a complete German text for the player, UTF-8: what happened, to which file, and what can be
+// done. Never thrown for a rule of the game (those answer with bool) nor for a bug (those assert).
+class Fault : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+}  // namespace bogenwerker

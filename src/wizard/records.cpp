@@ -1,0 +1,111 @@
+#include "wizard/records.h"
+
+#include "wizard/fault.h"
+#include "wizard/text.h"
+
+namespace bogenwerker {
+namespace {
+
+constexpr std::string_view lineEnds = "\r\n";
+const NumberLocale pointLocale;
+
+}  // namespace
+
+// Hot: step 6 passes over whole catalogues with it, once for every line of equipment.
+std::string_view RecordReader::takeField() {
+  const char* const begin = bytes_.data();
+  const char* const end = begin + bytes_.size();
+  const char* at = begin + position_;
+  ++field_;
+  fieldStart_ = position_;
+  if (at == end) throwPastEnd();
+  while (at != end && *at == ' ') ++at;
+  fieldStart_ = static_cast<std::size_t>(at - begin);
+
+  const char* first = at;
+  const char* last = nullptr;
+  if (at != end && *at == '"') {
+    ++first;
+    for (++at; at != end && *at != '"';) ++at;
+    last = at;
+  }
+  while (at != end && *at != ',' && *at != '\n' && *at != '\r') ++at;
+  if (last == nullptr) last = at;
+  if (at != end) {
+    if (*at == '\r' && at + 1 != end && at[1] == '\n') ++at;
+    ++at;
+  }
+  position_ = static_cast<std::size_t>(at - begin);
+  return {first, static_cast<std::size_t>(last - first)};
+}
+
+void RecordReader::take(std::string& target) { target = utf8FromCp1252(takeField()); }
+void RecordReader::take(Untyped& target) { take(target.text); }
+
+void RecordReader::take(Integer& target) {
+  const std::string_view field = takeField();
+  target = number(parseInteger(field), field, "ganze Zahl von -32768 bis 32767");
+}
+
+void RecordReader::take(Single& target) {
+  const std::string_view field = takeField();
+  target = number(parseSingle(field), field, "Zahl");
+}
+
+void RecordReader::take(Currency& target) {
+  const std::string_view field = takeField();
+  target = number(parseCurrency(field), field, "Zahl");
+}
+
+void RecordReader::take(bool& target) {
+  const std::string_view field = takeField();
+  const std::string_view word = field.substr(0, field.find_last_not_of(' ') + 1);
+  if (word == "#TRUE#") target = true;
+  else if (word == "#FALSE#") target = false;
+  else target = number(parseSingle(field), field, "Angabe #TRUE# oder #FALSE#") != 0;
+}
+
+bool RecordReader::atLineStart() const {
+  return position_ == 0 || lineEnds.find(bytes_[position_ - 1]) != lineEnds.npos;
+}
+
+void RecordReader::skipLine() {
+  while (!atEnd() && !atLineStart()) ++position_;
+  if (!atEnd() && bytes_[position_ - 1] == '\r' && bytes_[position_] == '\n') ++position_;
+}
+
+std::string RecordReader::place() const {
+  return std::string(file_) + ", Zeile " + std::to_string(lineOf(bytes_, fieldStart_)) + ", Feld " +
+         std::to_string(field_) + ": ";
+}
+
+void RecordReader::throwWrongType(std::string_view field, std::string_view kind) const {
+  constexpr std::size_t mostShown = 60;
+  const std::string shown = utf8FromCp1252(field);
+  const std::string_view prefix = utf8Prefix(shown, mostShown);
+  throw Fault(place() + "„" + std::string(prefix) + (prefix.size() < shown.size() ? "…" : "") + "“ ist keine " +
+              std::string(kind) + ".");
+}
+
+void RecordReader::throwPastEnd() const { throw Fault(place() + "Hier endet die Datei mitten in einem Eintrag."); }
+
+int lineOf(std::string_view bytes, std::size_t position) {
+  int line = 1;
+  for (std::size_t i = 0; i < position; ++i) {
+    if (bytes[i] == '\n' || (bytes[i] == '\r' && (i + 1 == bytes.size() || bytes[i + 1] != '\n'))) ++line;
+  }
+  return line;
+}
+
+std::string savedAsUtf8(std::string_view file) {
+  return std::string(file) +
+         ": Die Datei ist als UTF-8 gespeichert. Bitte speichern Sie sie in der Kodierung „ANSI“ (Windows-1252, "
+         "Westeuropäisch).";
+}
+
+void RecordWriter::put(std::string_view field) { bytes_.append("\"").append(cp1252FromUtf8(field)).append("\""); }
+void RecordWriter::put(Integer field) { bytes_ += textOf(field); }
+void RecordWriter::put(Currency field) { bytes_ += textOf(field, pointLocale); }
+void RecordWriter::put(Single field) { bytes_ += textOf(field, pointLocale); }
+
+}  // namespace bogenwerker

@@ -1,0 +1,176 @@
+#include "wizard/text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace bogenwerker {
+namespace {
+
+// Bytes 128 to 159; the rest of code page 1252 has the numbers of Unicode.
+constexpr std::array<char32_t, 32> upperControls = {
+    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+
+constexpr char32_t notUtf8 = 0xFFFFFFFF;
+
+bool isAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+// Takes the first character off the text, or one byte and notUtf8.
+char32_t takeCharacter(std::string_view& text) {
+  const auto first = static_cast<unsigned char>(text.front());
+  text.remove_prefix(1);
+  if (first < 0x80) return first;
+  const std::size_t length = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : 1;  // bytes to follow
+  if (first < 0xC2 || first > 0xF4 || text.size() < length) return notUtf8;
+  char32_t character = first & (0x3FU >> length);
+  for (std::size_t i = 0; i < length; ++i) {
+    const auto next = static_cast<unsigned char>(text[i]);
+    if ((next & 0xC0U) != 0x80) return notUtf8;
+    character = character << 6U | (next & 0x3FU);
+  }
+  constexpr std::array<char32_t, 4> least = {0, 0x80, 0x800, 0x10000};
+  if (character < least[length] || character > 0x10FFFF || (character >= 0xD800 && character < 0xE000)) return notUtf8;
+  text.remove_prefix(length);
+  return character;
+}
+
+void appendUtf8(std::string& text, char32_t character) {
+  const auto put = [&text](char32_t byte) { text += static_cast<char>(byte); };
+  if (character < 0x80) {
+    put(character);
+  } else if (character < 0x800) {
+    put(0xC0U | character >> 6U);
+    put(0x80U | (character & 0x3FU));
+  } else {
+    put(0xE0U | character >> 12U);
+    put(0x80U | (character >> 6U & 0x3FU));
+    put(0x80U | (character & 0x3FU));
+  }
+}
+
+// The byte for a character, or -1.
+int cp1252Byte(char32_t character) {
+  if (character < 0x80 || (character >= 0xA0 && character < 0x100)) return static_cast<int>(character);
+  const auto* place = std::find(upperControls.begin(), upperControls.end(), character);
+  return place == upperControls.end() ? -1 : 0x80 + static_cast<int>(place - upperControls.begin());
+}
+
+bool isControl(char32_t character) { return character < 0x20 || (character >= 0x7F && character < 0xA0); }
+
+struct SortLetter {
+  std::u32string_view letters;  // with marks, small
+  std::string_view base;
+};
+constexpr std::array<SortLetter, 12> marked = {{{U"àáâãäå", "a"},
+                                                {U"æ", "ae"},
+                                                {U"ç", "c"},
+                                                {U"èéêë", "e"},
+                                                {U"ìíîï", "i"},
+                                                {U"ñ", "n"},
+                                                {U"òóôõöø", "o"},
+                                                {U"œ", "oe"},
+                                                {U"šß", "s"},
+                                                {U"ùúûü", "u"},
+                                                {U"ýÿ", "y"},
+                                                {U"ž", "z"}}};
+
+char32_t smallLetter(char32_t character) {
+  if ((character >= 'A' && character <= 'Z') || (character >= 0xC0 && character <= 0xDE && character != 0xD7)) {
+    return character + 0x20;
+  }
+  switch (character) {
+    case U'Œ': return U'œ';
+    case U'Š': return U'š';
+    case U'Ž': return U'ž';
+    case U'Ÿ': return U'ÿ';
+    default: return character;
+  }
+}
+
+}  // namespace
+
+std::string utf8FromCp1252(std::string_view bytes) {
+  if (isAscii(bytes)) return std::string(bytes);
+  std::string text;
+  text.reserve(bytes.size() + bytes.size() / 4 + 4);
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    appendUtf8(text, byte >= 0x80 && byte < 0xA0 ? upperControls[byte - 0x80U] : byte);
+  }
+  return text;
+}
+
+std::string cp1252FromUtf8(std::string_view text) {
+  if (isAscii(text)) return std::string(text);
+  std::string bytes;
+  bytes.reserve(text.size());
+  while (!text.empty()) {
+    const int byte = cp1252Byte(takeCharacter(text));
+    if (byte >= 0) bytes += static_cast<char>(byte);
+  }
+  return bytes;
+}
+
+std::string gateTyped(std::string_view text) {
+  std::string passed;
+  passed.reserve(text.size());
+  while (!text.empty()) {
+    const char32_t character = takeCharacter(text);
+    if (character == '"') passed += '\'';
+    else if (!isControl(character) && cp1252Byte(character) >= 0) appendUtf8(passed, character);
+  }
+  return passed;
+}
+
+bool looksLikeUtf8(std::string_view bytes) {
+  if (bytes.starts_with("\xEF\xBB\xBF")) return true;
+  bool aboveAscii = false;
+  while (!bytes.empty()) {
+    const char32_t character = takeCharacter(bytes);
+    if (character == notUtf8) return false;
+    aboveAscii = aboveAscii || character >= 0x80;
+  }
+  return aboveAscii;
+}
+
+std::string_view utf8Prefix(std::string_view text, std::size_t bytes) {
+  if (text.size() <= bytes) return text;
+  while (bytes > 0 && (static_cast<unsigned char>(text[bytes]) & 0xC0U) == 0x80) --bytes;
+  return text.substr(0, bytes);
+}
+
+std::string germanSortKey(std::string_view text) {
+  std::string letters;
+  std::string accents;
+  std::string cases;
+  while (!text.empty()) {
+    const char32_t character = takeCharacter(text);
+    const char32_t small = smallLetter(character);
+    const auto* entry = std::find_if(marked.begin(), marked.end(), [small](const SortLetter& row) {
+      return row.letters.find(small) != std::u32string_view::npos;
+    });
+    if (entry == marked.end()) {
+      appendUtf8(letters, small);
+    } else {
+      letters += entry->base;
+      if (small == U'ß') letters += 's';
+    }
+    appendUtf8(accents, entry == marked.end() ? char32_t{1} : small);
+    cases += small == character ? '\1' : '\2';
+  }
+  return letters + '\0' + accents + '\0' + cases;
+}
+
+std::string lowerAscii(std::string_view text) {
+  std::string lower(text);
+  for (char& c : lower) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + ('a' - 'A'));
+  }
+  return lower;
+}
+
+}  // namespace bogenwerker
