@@ -1,0 +1,116 @@
+// The six catalogue files: what a row holds, how rows are read, looked up and checked.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "wizard/files.h"
+#include "wizard/records.h"
+
+namespace bogenwerker {
+
+// How many rows a file may hold.
+constexpr int mostLebensstile = 30;
+constexpr int mostConnections = 30;
+constexpr int mostMagicStuff = 1000;
+constexpr int mostCyberware = 1000;
+constexpr int mostBioware = 600;
+constexpr int mostCyberdecks = 20;
+
+// A row of Lebensstil.txt or Connection.txt.
+struct PriceRow {
+  static constexpr int fields = 2;
+  std::string name;
+  Currency kosten;
+  void readRest(RecordReader& reader) { reader.readOn(kosten); }
+};
+
+// A row of MagicStuff.txt.
+struct MagicRow {
+  static constexpr int fields = 4;
+  std::string name;
+  Integer spruchpunkte;
+  Currency kosten;
+  Single kraftpunkte = 0;
+  void readRest(RecordReader& reader) { reader.readOn(spruchpunkte, kosten, kraftpunkte); }
+};
+
+// What a ware does to its bearer.
+struct WareEffects {
+  Integer kon, Schnell, Stark, Intell, Char, Will;
+  Integer reak, reakRIGGER, reakDECKER;
+  Integer ini, iniRIGGER, iniDECKER;
+  bool AnwendaufReak = false;   // whether Schnell and Intell count for Reaktion
+  bool AnwendaufPools = false;  // whether Intell, Char, Will and Schnell count for the pools
+};
+
+// A row of Cyberware.txt, or of Bioware.txt with the Bio-Index cost in place of the Essenz cost.
+struct WareRow {
+  static constexpr int fields = 17;
+  std::string name;
+  Single essenz = 0;
+  Currency kosten;
+  WareEffects effects;
+  void readRest(RecordReader& reader) {
+    WareEffects& e = effects;
+    reader.readOn(essenz, kosten, e.kon, e.Schnell, e.Stark, e.Intell, e.Char, e.Will, e.reak, e.reakRIGGER,
+                  e.reakDECKER, e.ini, e.iniRIGGER, e.iniDECKER, e.AnwendaufReak, e.AnwendaufPools);
+  }
+};
+
+// A row of Cyberdecks.txt.
+struct DeckRow {
+  static constexpr int fields = 4;
+  std::string name;
+  Integer MPCP;
+  Currency kosten;
+  Integer Reaktionsverstärkung;
+  void readRest(RecordReader& reader) { reader.readOn(MPCP, kosten, Reaktionsverstärkung); }
+};
+
+template <class Row>
+void readRow(RecordReader& reader, Row& row) {
+  reader.read(row.name);
+  row.readRest(reader);
+}
+
+// Calls take for every row of a file in order. Throws Fault for a file or a row that cannot be read.
+template <class Row, class Take>
+void forEachRow(Files& files, std::string_view file, Take take) {
+  const std::string bytes = files.read(file);
+  RecordReader reader(file, bytes);
+  for (Row row; !reader.atEnd();) {
+    readRow(reader, row);
+    take(row);
+  }
+}
+
+// Where text stands in bytes at or behind a position, or npos. Made for large files that mostly do not hold the text.
+std::size_t findText(std::string_view bytes, std::string_view text, std::size_t from);
+
+// Reads the file anew into the buffer and calls take for every row whose name equals the name, in order and without
+// stopping at the first. Rows behind the last place where the bytes hold the name at all are not looked at, and of the
+// others only the named ones are converted. Names are in code page 1252. Throws Fault.
+template <class Row, class Take>
+void forEachRowNamed(Files& files, std::string_view file, std::string_view name, std::string& buffer, Take take) {
+  files.read(file, buffer);
+  RecordReader reader(file, buffer);
+  std::size_t next = findText(buffer, name, 0);
+  while (next != std::string_view::npos && !reader.atEnd()) {
+    Row row;
+    if (reader.readRaw() == name) {
+      row.readRest(reader);
+      take(row);
+    } else {
+      reader.skip(Row::fields - 1);
+    }
+    if (reader.position() > next) next = findText(buffer, name, reader.position());
+  }
+}
+
+// Appends what is wrong with the player's six files, a line of German for each fault with file, line and field. A name
+// that stands twice is no fault.
+void checkCatalogues(Files& files, std::vector<std::string>& faults);
+
+}  // namespace bogenwerker

@@ -1,0 +1,42 @@
+// Between steps 5 and 6: the personal data.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "wizard/controls.h"
+
+namespace bogenwerker {
+
+struct NamenGebenVariables {
+  std::string Namen;
+  std::string alter;
+  std::string aussehen;
+  std::string geschlecht;
+};
+
+// Four free texts for the sheet. They change no value of the character and are read after this form is gone.
+class FormNamenGeben final : public FormWith<NamenGebenVariables> {
+ public:
+  explicit FormNamenGeben(FormsRuntime& runtime);
+
+  // The final values wait hidden behind this form and hand in here how to show them.
+  void whenDone(std::function<void()> showFinalValues) { showFinalValues_ = std::move(showFinalValues); }
+
+  // clang-format off
+  TextBox       txtName      {*this, "txtName",       {.text = "Name des Charakters",     .tab = 0, .at = {.row = 0, .column = 0, .columns = 2}, .spoken = "Name"}};
+  TextBox       txtAussehen  {*this, "txtAussehen",   {.text = "Aussehen des Charakters", .tab = 1, .at = {.row = 1, .column = 0, .columns = 2}, .spoken = "Aussehen"}};
+  TextBox       txtAlter     {*this, "txtAlter",      {.text = "Alter des Charakters",    .tab = 2, .at = {.row = 2, .column = 0}, .spoken = "Alter"}};
+  ComboBox      cmbGeschlecht{*this, "cmbGeschlecht", {.text = "Geschlecht", .entries = {"männlich", "weiblich"}, .tab = 3, .at = {.row = 2, .column = 1}, .spoken = "Geschlecht", .click = [this] { cmbGeschlecht_Click(); }}};
+  CommandButton cmdOkay      {*this, "cmdOkay",       {.caption = "OK", .tab = 4, .at = {.row = 3, .column = 0, .align = Place::Align::left}, .click = [this] { cmdOkay_Click(); }}};
+  // clang-format on
+
+ private:
+  void Form_Load() override;
+  void cmbGeschlecht_Click();
+  void cmdOkay_Click();
+
+  std::function<void()> showFinalValues_;
+};
+
+}  // namespace bogenwerker

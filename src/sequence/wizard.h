@@ -1,0 +1,43 @@
+// The seven forms together, in the order of the wizard.
+#pragma once
+
+#include "attributes/FormAttributmonitor.h"
+#include "equipment/FormAusruestung.h"
+#include "finish/FormFeinschliff.h"
+#include "finish/FormNamenGeben.h"
+#include "priorities/FormPrioritaeten.h"
+#include "skills/FormAktionFertigkeit.h"
+#include "skills/FormWissensfertigkeit.h"
+#include "wizard/forms.h"
+
+namespace bogenwerker {
+
+// One character's way from the first form to the sheet. It controls nothing: every form hands over by itself to the
+// later ones that it is given here, which is why they are made last to first.
+class Wizard {
+ public:
+  explicit Wizard(Environment environment) : runtime_(std::move(environment)) {}
+
+  [[nodiscard]] FormsRuntime& runtime() { return runtime_; }
+
+  // Checks what the player's folder holds and shows the first form. False if the folder cannot be played with: then
+  // one message has told why, and no form is loaded.
+  bool start();
+
+  // In the order in which the player meets them, formFeinschliff last: it loads before the personal data are shown.
+  [[nodiscard]] std::vector<Form*> formsInOrder();
+
+ private:
+  FormsRuntime runtime_;
+
+ public:
+  FormNamenGeben formNamenGeben{runtime_};
+  FormFeinschliff formFeinschliff{runtime_, formNamenGeben};
+  FormAusrüstung formAusrüstung{runtime_, formFeinschliff, formNamenGeben};
+  FormWissensfertigkeit formWissensfertigkeit{runtime_, formAusrüstung};
+  FormAktionFertigkeit formAktionFertigkeit{runtime_, formWissensfertigkeit};
+  FormAttributmonitor formAttributmonitor{runtime_, formAktionFertigkeit};
+  FormPrioritäten formPrioritäten{runtime_, formAttributmonitor, formAktionFertigkeit};
+};
+
+}  // namespace bogenwerker

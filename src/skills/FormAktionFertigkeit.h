@@ -1,0 +1,107 @@
+// Step 3: action skills and their specialisations.
+#pragma once
+
+#include <string>
+
+#include "wizard/controls.h"
+#include "wizard/numbered_array.h"
+#include "wizard/numbers.h"
+
+namespace bogenwerker {
+
+class FormWissensfertigkeit;
+
+struct AktionFertigkeitVariables {
+ protected:
+  Integer zaehler;            // the number that the next skill gets
+  bool CheckButton = false;   // whether one of the eight attributes is chosen
+  Integer merkzahl;           // the skill that was clicked last, 0 for none
+  Integer UsedPoints;
+  Integer MaxPoints;          // 0 until the first press of cmdAddFertigkeit
+
+  NumberedArray<std::string, 30> FertigkeitName;
+  NumberedArray<Integer, 30> FertigkeitStufe;
+  NumberedArray<Integer, 30> AttributWert;
+  NumberedArray<std::string, 30> SpeziName;
+  NumberedArray<Integer, 30> SpeziStufe;
+};
+
+// The linked attribute's value sets the price of each level of a skill. Once the budget is spent exactly, levels can be
+// frozen and traded for specialisations. Skills are never removed.
+class FormAktionFertigkeit final : public FormWith<AktionFertigkeitVariables> {
+ public:
+  FormAktionFertigkeit(FormsRuntime& runtime, FormWissensfertigkeit& wissensfertigkeit);
+
+  // clang-format off
+  Frame         frmAddFertigkeit{*this,            "frmAddFertigkeit", {.caption = "Aktionsfertigkeit hinzufügen", .tab = 0, .at = {.row = 0}}};
+  TextBox       txtAFertigkeit  {frmAddFertigkeit, "txtAFertigkeit",   {.tab = 1, .at = {.row = 1, .column = 0, .align = Place::Align::top}, .spoken = "Name der Fertigkeit", .change = [this] { txtAFertigkeit_Change(); }}};
+  Label         lblNameFertigkeit{frmAddFertigkeit, "lblNameFertigkeit", {.caption = "Name der Fertigkeit", .tab = 2, .at = {.row = 0, .column = 0, .align = Place::Align::bottom}}};
+  CommandButton cmdAddFertigkeit{frmAddFertigkeit, "cmdAddFertigkeit", {.caption = "Hinzufügen!", .enabled = false, .tab = 3, .at = {.row = 0, .column = 2, .rows = 2}, .spoken = "Aktionsfertigkeit hinzufügen", .click = [this] { cmdAddFertigkeit_Click(); }}};
+
+  Frame         frmVerwaltungAF  {*this,           "frmVerwaltungAF",   {.caption = "Aktionsfertigkeiten verwalten", .tab = 4, .at = {.row = 1}}};
+  ListBox       lstAFertigkeiten {frmVerwaltungAF, "lstAFertigkeiten",  {.tab = 5, .at = {.row = 0, .column = 0, .rows = 3}, .spoken = "Aktionsfertigkeiten", .click = [this] { lstAFertigkeiten_Click(); }}};
+  CommandButton cmdFertigkeitPlus {frmVerwaltungAF, "cmdFertigkeitPlus",  {.caption = "+", .tab = 6, .at = {.row = 0, .column = 1}, .spoken = "Stufe plus",  .click = [this] { cmdFertigkeitPlus_Click(); }}};
+  CommandButton cmdFertigkeitMinus{frmVerwaltungAF, "cmdFertigkeitMinus", {.caption = "-", .tab = 7, .at = {.row = 1, .column = 1}, .spoken = "Stufe minus", .click = [this] { cmdFertigkeitMinus_Click(); }}};
+
+  Frame         frmZugAttr   {frmAddFertigkeit, "frmZugAttr",    {.caption = "Zugehöriges Attribut", .tab = 8, .at = {.row = 0, .column = 1, .rows = 2}}};
+  OptionButton  optAFKonst   {frmZugAttr, "optAFKonst",    {.caption = "Konstitution",  .tab = 9,  .at = {.row = 0, .column = 0}, .click = [this] { optAFKonst_Click(); }}};
+  OptionButton  optAFSchnell {frmZugAttr, "optAFSchnell",  {.caption = "Schnelligkeit", .tab = 10, .at = {.row = 1, .column = 0}, .click = [this] { optAFSchnell_Click(); }}};
+  OptionButton  optAFStark   {frmZugAttr, "optAFStark",    {.caption = "Stärke",        .tab = 11, .at = {.row = 2, .column = 0}, .click = [this] { optAFStark_Click(); }}};
+  OptionButton  optAFCharisma{frmZugAttr, "optAFCharisma", {.caption = "Charisma",      .tab = 12, .at = {.row = 0, .column = 2}, .click = [this] { optAFCharisma_Click(); }}};
+  OptionButton  optAFIntell  {frmZugAttr, "optAFIntell",   {.caption = "Intelligenz",   .tab = 13, .at = {.row = 1, .column = 2}, .click = [this] { optAFIntell_Click(); }}};
+  OptionButton  optAFWill    {frmZugAttr, "optAFWill",     {.caption = "Willenskraft",  .tab = 14, .at = {.row = 2, .column = 2}, .click = [this] { optAFWill_Click(); }}};
+  OptionButton  optAFReaktion{frmZugAttr, "optAFReaktion", {.caption = "Reaktion",      .tab = 15, .at = {.row = 0, .column = 4}, .click = [this] { optAFReaktion_Click(); }}};
+
+  Frame         frmSpezi   {frmVerwaltungAF, "frmSpezi",    {.caption = "Spezialisierung", .enabled = false, .tab = 16, .at = {.row = 1, .column = 2, .rows = 2}}};
+  TextBox       txtSpezi   {frmSpezi,        "txtSpezi",    {.tab = 17, .at = {.row = 0, .align = Place::Align::top}, .spoken = "Name der Spezialisierung", .change = [this] { txtSpezi_Change(); }}};
+  CommandButton cmdAddSpezi{frmSpezi,        "cmdAddSpezi", {.caption = "Hinzufügen!", .enabled = false, .tab = 18, .at = {.row = 1, .align = Place::Align::top}, .spoken = "Spezialisierung hinzufügen", .click = [this] { cmdAddSpezi_Click(); }}};
+
+  Label lblAktuellFertPunkte      {frmVerwaltungAF, "lblAktuellFertPunkte",       {.caption = "0", .bold = true, .tab = 19, .at = {.row = 2, .column = 1, .align = Place::Align::left}, .spoken = "Ausgegebene Fertigkeitspunkte"}};
+  Label lblvon2                   {frmVerwaltungAF, "lblvon2",                    {.caption = "von", .tab = 20, .at = {.row = 2, .column = 1, .align = Place::Align::centre}}};
+  Label lblTotalFertigkeitenPunkte{frmVerwaltungAF, "lblTotalFertigkeitenPunkte", {.caption = "0", .bold = true, .tab = 21, .at = {.row = 2, .column = 1, .align = Place::Align::right}, .spoken = "Fertigkeitspunkte insgesamt"}};
+
+  OptionButton optAFMagie{frmZugAttr, "optAFMagie", {.caption = "Magie", .tab = 22, .at = {.row = 1, .column = 4}, .click = [this] { optAFMagie_Click(); }}};
+
+  Label lblREMkonst   {frmZugAttr, "lblREMkonst",    {.tab = 23, .at = {.row = 0, .column = 1}, .spoken = "Konstitution"}};
+  Label lblREMcharisma{frmZugAttr, "lblREMcharisma", {.tab = 24, .at = {.row = 0, .column = 3}, .spoken = "Charisma"}};
+  Label lblREMschnell {frmZugAttr, "lblREMschnell",  {.tab = 25, .at = {.row = 1, .column = 1}, .spoken = "Schnelligkeit"}};
+  Label lblREMintell  {frmZugAttr, "lblREMintell",   {.tab = 26, .at = {.row = 1, .column = 3}, .spoken = "Intelligenz"}};
+  Label lblREMstark   {frmZugAttr, "lblREMstark",    {.tab = 27, .at = {.row = 2, .column = 1}, .spoken = "Stärke"}};
+  Label lblREMwill    {frmZugAttr, "lblREMwill",     {.tab = 28, .at = {.row = 2, .column = 3}, .spoken = "Willenskraft"}};
+  Label lblREMreaktion{frmZugAttr, "lblREMreaktion", {.tab = 29, .at = {.row = 0, .column = 5}, .spoken = "Reaktion"}};
+  Label lblREMmagie   {frmZugAttr, "lblREMmagie",    {.tab = 30, .at = {.row = 1, .column = 5}, .spoken = "Magie"}};
+
+  CommandButton cmdafertcompl   {frmVerwaltungAF, "cmdafertcompl",    {.caption = "Aktionsfertigkeiten vollständig, Spezialisierung hinzufügen!", .enabled = false, .tab = 31, .at = {.row = 0, .column = 2}, .click = [this] { cmdafertcompl_Click(); }}};
+  CommandButton cmddisformisready{*this,          "cmddisformisready", {.caption = "Weiter!", .enabled = false, .tab = 32, .at = {.row = 2, .align = Place::Align::right}, .click = [this] { cmddisformisready_Click(); }}};
+  // clang-format on
+
+ private:
+  void Form_Load() override;
+  void optAFKonst_Click();
+  void optAFSchnell_Click();
+  void optAFStark_Click();
+  void optAFCharisma_Click();
+  void optAFIntell_Click();
+  void optAFWill_Click();
+  void optAFReaktion_Click();
+  void optAFMagie_Click();
+  void txtAFertigkeit_Change();
+  void cmdAddFertigkeit_Click();
+  void lstAFertigkeiten_Click();
+  void cmdFertigkeitPlus_Click();
+  void cmdFertigkeitMinus_Click();
+  void cmdafertcompl_Click();
+  void txtSpezi_Change();
+  void cmdAddSpezi_Click();
+  void cmddisformisready_Click();
+
+  [[nodiscard]] bool hasRoom() const;
+  void link(const Label& attribute);
+  void CheckDaButtons();
+  void clearButtons();
+  void schreibeListe();
+
+  FormWissensfertigkeit& formWissensfertigkeit;
+};
+
+}  // namespace bogenwerker
