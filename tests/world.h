@@ -1,0 +1,104 @@
+// A wizard in a folder of its own: catalogues as shipped, dice that are known, a disk that can fail.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "sequence/wizard.h"
+#include "wizard/files.h"
+
+namespace bogenwerker {
+
+// The real disk, until told to fail. Every system call counts, so that a test can let each one fail in turn.
+class FaultyFiles final : public Files {
+ public:
+  // The call with that number from now on, counted from 0, fails once with that errno.
+  void failAt(int call, int error) {
+    calls_ = 0;
+    failing_ = call;
+    error_ = error;
+  }
+  void heal() { failing_ = -1; }
+  [[nodiscard]] int calls() const { return calls_; }
+  // Every write passes on at most that many bytes.
+  void setMostPerWrite(std::size_t bytes) { mostPerWrite_ = bytes; }
+
+ private:
+  int openFile(const char* path, int flags) override;
+  ssize_t readFile(int file, char* bytes, std::size_t most) override;
+  ssize_t writeFile(int file, const char* bytes, std::size_t count) override;
+  int flushFile(int file) override;
+  int closeFile(int file) override;
+  int renameFile(const char* from, const char* to) override;
+  bool fails();
+
+  int calls_ = 0;
+  int failing_ = -1;
+  int error_ = 0;
+  std::size_t mostPerWrite_ = static_cast<std::size_t>(-1);
+};
+
+// Makes a folder below the system's temporary one, goes there, and takes the folder away in the end.
+class TemporaryFolder {
+ public:
+  TemporaryFolder();
+  ~TemporaryFolder();
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+ private:
+  std::string path_;
+};
+
+class World {
+ public:
+  World();
+
+  // Carries out a script of gestures, a line each; gives back the replies.
+  std::vector<std::string> play(std::string_view script);
+  // The same, and every reply has to be ok.
+  void playOk(std::string_view script);
+
+  // The state of all loaded forms as one line of JSON.
+  [[nodiscard]] std::string dump();
+
+ private:
+  TemporaryFolder folder_;
+
+ public:
+  FaultyFiles files;
+  std::vector<std::string> messages;
+  std::vector<std::string> faults;
+  int die = 3;
+  NumberLocale numbers{",", "."};  // as a German player has them
+  Wizard wizard;
+};
+
+// Names a test by the name of its row.
+constexpr auto rowName = [](const auto& row) { return std::string(row.param.name); };
+
+// The bytes of a file in the current folder, empty if there is none.
+std::string fileBytes(const std::string& name);
+void writeBytes(const std::string& name, std::string_view bytes);
+void copyShippedData();
+// Names of all files in the current folder, sorted.
+std::vector<std::string> fileNames();
+
+// Scripts from the first form to the named one, with nothing special bought on the way. Each begins where the one
+// before it ends.
+namespace road {
+// The five options of step 1 and its way out.
+std::string priorities(std::string_view race, std::string_view magic, std::string_view attributes,
+                       std::string_view skills, std::string_view resources);
+// Step 2 with points for Konstitution, Schnelligkeit, Stärke, Charisma, Intelligenz, Willenskraft.
+std::string attributes(std::vector<int> points);
+// Step 3 with one skill after the other on Konstitution until the points are gone.
+std::string skills(int points, int konstitution);
+// Step 4 for an Intelligenz of 1 to 6.
+std::string knowledge(int intelligenz);
+std::string press(std::string_view button, int times);
+}  // namespace road
+
+}  // namespace bogenwerker
