@@ -1,5 +1,6 @@
 #include "world.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -21,7 +22,12 @@ bool FaultyFiles::fails() {
   return true;
 }
 
-int FaultyFiles::openFile(const char* path, int flags) { return fails() ? -1 : Files::openFile(path, flags); }
+int FaultyFiles::openFile(const char* path, int flags) {
+  if (fails()) return -1;
+  const int file = Files::openFile(path, flags);
+  writing_ = (flags & O_ACCMODE) == O_WRONLY ? file : -1;  // never two files are open at once
+  return file;
+}
 ssize_t FaultyFiles::readFile(int file, char* bytes, std::size_t most) {
   return fails() ? -1 : Files::readFile(file, bytes, most);
 }
@@ -30,6 +36,7 @@ ssize_t FaultyFiles::writeFile(int file, const char* bytes, std::size_t count) {
 }
 int FaultyFiles::flushFile(int file) { return fails() ? -1 : Files::flushFile(file); }
 int FaultyFiles::closeFile(int file) {
+  if (file != writing_) return Files::closeFile(file);  // what was only read is whole whatever close says
   const bool failing = fails();  // the descriptor is gone either way, as with the real call
   const int error = errno;
   const int result = Files::closeFile(file);

@@ -34,6 +34,7 @@ class FaultyFiles final : public Files {
   int renameFile(const char* from, const char* to) override;
   bool fails();
 
+  int writing_ = -1;
   int calls_ = 0;
   int failing_ = -1;
   int error_ = 0;

@@ -112,8 +112,7 @@ std::optional<std::string> carryOut(Wizard& wizard, std::string_view line) {
   }
   const Form* form = runtime.visibleForm();
   const std::string_view verb = takeWord(line);
-  const std::string_view name = takeWord(line);
-  if (verb == "click" && !line.empty()) return std::string(unknown);
+  const std::string_view name = verb == "click" ? line : takeWord(line);
   for (Control* control : form->controls()) {
     if (control->name() != name) continue;
     const std::string_view reply = carryOutOn(*control, verb, line);
