@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "attributes/berechneReaktion.h"
+#include "zusatzmodul/berechneReaktion.h"
 #include "wizard/fault.h"
 #include "world.h"
 

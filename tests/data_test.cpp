@@ -7,7 +7,7 @@
 #include <set>
 #include <sstream>
 
-#include "equipment/catalogues.h"
+#include "catalogues/catalogues.h"
 #include "wizard/text.h"
 #include "world.h"
 

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <random>
 
-#include "equipment/catalogues.h"
+#include "catalogues/catalogues.h"
 #include "equipment/wuerfelomat.h"
 #include "wizard/text.h"
 #include "world.h"

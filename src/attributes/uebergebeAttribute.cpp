@@ -1,6 +1,6 @@
 #include "attributes/uebergebeAttribute.h"
 
-#include "attributes/berechneReaktion.h"
+#include "zusatzmodul/berechneReaktion.h"
 #include "skills/FormAktionFertigkeit.h"
 
 namespace bogenwerker {

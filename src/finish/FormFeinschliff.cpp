@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "attributes/berechneReaktion.h"
+#include "zusatzmodul/berechneReaktion.h"
 #include "finish/FormNamenGeben.h"
 #include "finish/sheet.h"
 #include "wizard/records.h"
@@ -20,7 +20,7 @@ Integer poolOf(Integer sum, int divisor) {
 }  // namespace
 
 FormFeinschliff::FormFeinschliff(FormsRuntime& runtime, FormNamenGeben& namenGeben)
-    : FormWith(runtime, "formFeinschliff", {.caption = "Endgültige Werte erzeugen - Schritt 6"}),
+    : FormWith(runtime, "formFeinschliff", {.caption = "Endgültige Werte erzeugen - Schritt 6", .stretch = {.rows = {0, 1, 0}, .columns = {0, 1}}}),
       formNamenGeben(namenGeben) {
   formNamenGeben.whenDone([this] { setVisible(true); });
 }

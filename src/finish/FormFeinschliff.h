@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "equipment/catalogues.h"
+#include "catalogues/catalogues.h"
 #include "wizard/controls.h"
 #include "wizard/numbered_array.h"
 #include "wizard/numbers.h"
@@ -58,7 +58,7 @@ class FormFeinschliff final : public FormWith<FeinschliffVariables> {
   FormFeinschliff(FormsRuntime& runtime, FormNamenGeben& namenGeben);
 
   // clang-format off
-  Frame Frame1          {*this,  "Frame1",           {.caption = "Attribute", .tab = 0, .at = {.row = 0, .column = 0}}};
+  Frame Frame1          {*this,  "Frame1",           {.caption = "Attribute", .tab = 0, .at = {.row = 0, .column = 0}, .stretch = {.columns = {0, 0, 0, 0, 0, 1}}}};
   Label Label1          {Frame1, "Label1",           {.caption = "Konstitution",  .tab = 1, .at = {.row = 0, .column = 0}}};
   Label Label2          {Frame1, "Label2",           {.caption = "Schnelligkeit", .tab = 2, .at = {.row = 1, .column = 0}}};
   Label Label3          {Frame1, "Label3",           {.caption = "Stärke",        .tab = 3, .at = {.row = 2, .column = 0}}};
@@ -75,34 +75,34 @@ class FormFeinschliff final : public FormWith<FeinschliffVariables> {
   Label lblWillenskraft {Frame1, "lblWillenskraft",  {.tab = 14, .at = {.row = 5, .column = 1}, .spoken = "Willenskraft"}};
   Label lblEssenz       {Frame1, "lblEssenz",        {.tab = 15, .at = {.row = 6, .column = 1}, .spoken = "Essenz"}};
   Label lblMagie        {Frame1, "lblMagie",         {.tab = 16, .at = {.row = 7, .column = 1}, .spoken = "Magie"}};
-  Label lblReaktion     {Frame1, "lblReaktion",      {.tab = 17, .at = {.row = 2, .column = 5, .rows = 2}, .spoken = "Reaktion"}};
-  Label lblInitiative   {Frame1, "lblInitiative",    {.tab = 18, .at = {.row = 7, .column = 5}, .spoken = "Initiative"}};
-  Label Label19         {Frame1, "Label19",          {.caption = "Reaktion",   .tab = 19, .at = {.row = 1, .column = 5}}};
-  Label Label20         {Frame1, "Label20",          {.caption = "Initiative", .tab = 20, .at = {.row = 6, .column = 5}}};
+  Label lblReaktion     {Frame1, "lblReaktion",      {.centred = true, .tab = 17, .at = {.row = 2, .column = 5, .rows = 2}, .spoken = "Reaktion"}};
+  Label lblInitiative   {Frame1, "lblInitiative",    {.centred = true, .tab = 18, .at = {.row = 7, .column = 5}, .spoken = "Initiative"}};
+  Label Label19         {Frame1, "Label19",          {.caption = "Reaktion",   .centred = true, .tab = 19, .at = {.row = 1, .column = 5}}};
+  Label Label20         {Frame1, "Label20",          {.caption = "Initiative", .centred = true, .tab = 20, .at = {.row = 6, .column = 5}}};
   // From the rows Schnelligkeit and Intelligenz into Reaktion, and from there down to Initiative.
-  Line Line1            {Frame1, "Line1", {.at = {.row = 1, .column = 2}}};
-  Line Line2            {Frame1, "Line2", {.at = {.row = 4, .column = 2}}};
-  Line Line3            {Frame1, "Line3", {.at = {.row = 1, .column = 3, .rows = 4}, .stroke = LineDesign::Stroke::vertical}};
-  Line Line4            {Frame1, "Line4", {.at = {.row = 2, .column = 4, .rows = 2}}};
+  Line Line1            {Frame1, "Line1", {.at = {.row = 1, .column = 2, .columns = 2}, .to = LineDesign::End::middle}};
+  Line Line2            {Frame1, "Line2", {.at = {.row = 4, .column = 2, .columns = 2}, .to = LineDesign::End::middle}};
+  Line Line3            {Frame1, "Line3", {.at = {.row = 1, .column = 3, .rows = 4}, .stroke = LineDesign::Stroke::vertical, .from = LineDesign::End::middle, .to = LineDesign::End::middle}};
+  Line Line4            {Frame1, "Line4", {.at = {.row = 2, .column = 3, .rows = 2, .columns = 2}, .from = LineDesign::End::middle}};
   Line Line5            {Frame1, "Line5", {.at = {.row = 4, .column = 5, .rows = 2}, .stroke = LineDesign::Stroke::vertical}};
 
-  Frame   Frame2         {*this,  "Frame2",          {.caption = "Pools", .tab = 21, .at = {.row = 1, .column = 0}}};
+  Frame   Frame2         {*this,  "Frame2",          {.caption = "Pools", .tab = 21, .at = {.row = 1, .column = 0}, .stretch = {.rows = {0, 0, 0, 0, 0, 0, 1}, .columns = {0, 0, 1}}}};
   Label   Label21        {Frame2, "Label21",         {.caption = "Kampfpool",    .tab = 22, .at = {.row = 0, .column = 0}}};
   Label   Label22        {Frame2, "Label22",         {.caption = "Steuerpool",   .tab = 23, .at = {.row = 1, .column = 0}}};
   Label   Label23        {Frame2, "Label23",         {.caption = "Zauberpool",   .tab = 24, .at = {.row = 2, .column = 0}}};
   Label   Label24        {Frame2, "Label24",         {.caption = "Astralkampf",  .tab = 25, .at = {.row = 3, .column = 0}}};
   Label   Label25        {Frame2, "Label25",         {.caption = "Hackingpool",  .tab = 26, .at = {.row = 4, .column = 0}}};
   Label   Label26        {Frame2, "Label26",         {.caption = "Aufgabenpool", .tab = 27, .at = {.row = 5, .column = 0}}};
-  TextBox txtKampfpool   {Frame2, "txtKampfpool",    {.tab = 28, .at = {.row = 0, .column = 1}, .spoken = "Kampfpool"}};
-  TextBox txtSteuerpool  {Frame2, "txtSteuerpool",   {.tab = 29, .at = {.row = 1, .column = 1}, .spoken = "Steuerpool"}};
-  TextBox txtZauberpool  {Frame2, "txtZauberpool",   {.tab = 30, .at = {.row = 2, .column = 1}, .spoken = "Zauberpool"}};
-  TextBox txtAstralkampf {Frame2, "txtAstralkampf",  {.tab = 31, .at = {.row = 3, .column = 1}, .spoken = "Astralkampf"}};
-  TextBox txtHackingpool {Frame2, "txtHackingpool",  {.tab = 32, .at = {.row = 4, .column = 1}, .spoken = "Hackingpool"}};
-  TextBox txtAufgabenpool{Frame2, "txtAufgabenpool", {.tab = 33, .at = {.row = 5, .column = 1}, .spoken = "Aufgabenpool"}};
+  TextBox txtKampfpool   {Frame2, "txtKampfpool",    {.characters = 6, .tab = 28, .at = {.row = 0, .column = 1}, .spoken = "Kampfpool"}};
+  TextBox txtSteuerpool  {Frame2, "txtSteuerpool",   {.characters = 6, .tab = 29, .at = {.row = 1, .column = 1}, .spoken = "Steuerpool"}};
+  TextBox txtZauberpool  {Frame2, "txtZauberpool",   {.characters = 6, .tab = 30, .at = {.row = 2, .column = 1}, .spoken = "Zauberpool"}};
+  TextBox txtAstralkampf {Frame2, "txtAstralkampf",  {.characters = 6, .tab = 31, .at = {.row = 3, .column = 1}, .spoken = "Astralkampf"}};
+  TextBox txtHackingpool {Frame2, "txtHackingpool",  {.characters = 6, .tab = 32, .at = {.row = 4, .column = 1}, .spoken = "Hackingpool"}};
+  TextBox txtAufgabenpool{Frame2, "txtAufgabenpool", {.characters = 6, .tab = 33, .at = {.row = 5, .column = 1}, .spoken = "Aufgabenpool"}};
 
   Frame         Frame3        {*this,  "Frame3",         {.caption = "Ausrüstung", .tab = 34, .at = {.row = 0, .column = 1, .rows = 2}}};
-  ListBox       lstAusrüstung {Frame3, "lstAusrüstung",  {.tab = 35, .spoken = "Ausrüstung und Fertigkeiten"}};
-  CommandButton cmdErzeugeHTML{*this,  "cmdErzeugeHTML", {.caption = "Erzeuge HTML Datenblatt!", .tab = 36, .at = {.row = 2, .column = 0, .columns = 2, .align = Place::Align::centre}, .click = [this] { cmdErzeugeHTML_Click(); }}};
+  ListBox       lstAusrüstung {Frame3, "lstAusrüstung",  {.characters = 48, .lines = 20, .tab = 35, .spoken = "Ausrüstung und Fertigkeiten"}};
+  CommandButton cmdErzeugeHTML{*this,  "cmdErzeugeHTML", {.caption = "Erzeuge HTML Datenblatt!", .characters = 44, .tab = 36, .at = {.row = 2, .column = 0, .columns = 2, .align = Place::Align::centre}, .click = [this] { cmdErzeugeHTML_Click(); }}};
   // clang-format on
 
   // The texts of Essenz and of the values in brackets, as this form and the sheet show them.

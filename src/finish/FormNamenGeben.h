@@ -26,8 +26,8 @@ class FormNamenGeben final : public FormWith<NamenGebenVariables> {
   // clang-format off
   TextBox       txtName      {*this, "txtName",       {.text = "Name des Charakters",     .tab = 0, .at = {.row = 0, .column = 0, .columns = 2}, .spoken = "Name"}};
   TextBox       txtAussehen  {*this, "txtAussehen",   {.text = "Aussehen des Charakters", .tab = 1, .at = {.row = 1, .column = 0, .columns = 2}, .spoken = "Aussehen"}};
-  TextBox       txtAlter     {*this, "txtAlter",      {.text = "Alter des Charakters",    .tab = 2, .at = {.row = 2, .column = 0}, .spoken = "Alter"}};
-  ComboBox      cmbGeschlecht{*this, "cmbGeschlecht", {.text = "Geschlecht", .entries = {"männlich", "weiblich"}, .tab = 3, .at = {.row = 2, .column = 1}, .spoken = "Geschlecht", .click = [this] { cmbGeschlecht_Click(); }}};
+  TextBox       txtAlter     {*this, "txtAlter",      {.text = "Alter des Charakters", .characters = 30,    .tab = 2, .at = {.row = 2, .column = 0}, .spoken = "Alter"}};
+  ComboBox      cmbGeschlecht{*this, "cmbGeschlecht", {.text = "Geschlecht", .entries = {"männlich", "weiblich"}, .characters = 20, .tab = 3, .at = {.row = 2, .column = 1}, .spoken = "Geschlecht", .click = [this] { cmbGeschlecht_Click(); }}};
   CommandButton cmdOkay      {*this, "cmdOkay",       {.caption = "OK", .tab = 4, .at = {.row = 3, .column = 0, .align = Place::Align::left}, .click = [this] { cmdOkay_Click(); }}};
   // clang-format on
 

@@ -114,10 +114,14 @@ void writeSheet(Files& files, const FormFeinschliff& values, const FormNamenGebe
   std::string sheet;
   sheet.reserve(page.size() + page.size() / 4);
   for (RecordReader reader(templateFile, page); !reader.atEnd();) {
-    std::string unit;
-    reader.read(unit);
-    placeholders.replace(unit);
-    sheet.append(cp1252FromUtf8(unit)).append("\r\n");
+    const std::string_view unit = reader.readRaw();
+    if (unit.starts_with('#')) {
+      std::string text = utf8FromCp1252(unit);
+      placeholders.replace(text);
+      sheet.append(cp1252FromUtf8(text)).append("\r\n");
+    } else {
+      sheet.append(unit).append("\r\n");
+    }
   }
   files.replace(sheetFileName(person.Namen), sheet, Durability::onDisk);
 }

@@ -32,11 +32,11 @@ class FormPrioritäten final : public FormWith<PrioritätenVariables> {
   Frame frmPrioritäten{*this, "frmPrioritäten", {.caption = "Prioritäten", .at = {.row = 0, .column = 0}}};
 
   Frame frmPrio {frmPrioritäten, "frmPrio",  {.caption = "Priorität", .at = {.column = 0}}};
-  Label lblPrioA{frmPrio,        "lblPrioA", {.caption = "A", .at = {.row = 0}}};
-  Label lblPrioB{frmPrio,        "lblPrioB", {.caption = "B", .at = {.row = 1}}};
-  Label lblPrioC{frmPrio,        "lblPrioC", {.caption = "C", .at = {.row = 2}}};
-  Label lblPrioD{frmPrio,        "lblPrioD", {.caption = "D", .at = {.row = 3}}};
-  Label lblPrioE{frmPrio,        "lblPrioE", {.caption = "E", .at = {.row = 4}}};
+  Label lblPrioA{frmPrio,        "lblPrioA", {.caption = "A", .centred = true, .at = {.row = 0}}};
+  Label lblPrioB{frmPrio,        "lblPrioB", {.caption = "B", .centred = true, .at = {.row = 1}}};
+  Label lblPrioC{frmPrio,        "lblPrioC", {.caption = "C", .centred = true, .at = {.row = 2}}};
+  Label lblPrioD{frmPrio,        "lblPrioD", {.caption = "D", .centred = true, .at = {.row = 3}}};
+  Label lblPrioE{frmPrio,        "lblPrioE", {.caption = "E", .centred = true, .at = {.row = 4}}};
 
   Frame        frmRasse      {frmPrioritäten, "frmRasse",       {.caption = "Rasse", .at = {.column = 1}}};
   OptionButton optRasseA     {frmRasse,       "optRasseA",      {.caption = "-", .enabled = false, .tab = 0, .at = {.row = 0, .column = 0}, .spoken = "Priorität A: keine Rasse"}};

@@ -1,6 +1,6 @@
 #include "sequence/wizard.h"
 
-#include "equipment/catalogues.h"
+#include "catalogues/catalogues.h"
 #include "finish/sheet.h"
 
 namespace bogenwerker {

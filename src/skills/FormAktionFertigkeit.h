@@ -33,15 +33,15 @@ class FormAktionFertigkeit final : public FormWith<AktionFertigkeitVariables> {
   FormAktionFertigkeit(FormsRuntime& runtime, FormWissensfertigkeit& wissensfertigkeit);
 
   // clang-format off
-  Frame         frmAddFertigkeit{*this,            "frmAddFertigkeit", {.caption = "Aktionsfertigkeit hinzufügen", .tab = 0, .at = {.row = 0}}};
-  TextBox       txtAFertigkeit  {frmAddFertigkeit, "txtAFertigkeit",   {.tab = 1, .at = {.row = 1, .column = 0, .align = Place::Align::top}, .spoken = "Name der Fertigkeit", .change = [this] { txtAFertigkeit_Change(); }}};
+  Frame         frmAddFertigkeit{*this,            "frmAddFertigkeit", {.caption = "Aktionsfertigkeit hinzufügen", .tab = 0, .at = {.row = 0}, .stretch = {.columns = {1, 0, 0}}}};
+  TextBox       txtAFertigkeit  {frmAddFertigkeit, "txtAFertigkeit",   {.characters = 30, .tab = 1, .at = {.row = 1, .column = 0, .align = Place::Align::top}, .spoken = "Name der Fertigkeit", .change = [this] { txtAFertigkeit_Change(); }}};
   Label         lblNameFertigkeit{frmAddFertigkeit, "lblNameFertigkeit", {.caption = "Name der Fertigkeit", .tab = 2, .at = {.row = 0, .column = 0, .align = Place::Align::bottom}}};
   CommandButton cmdAddFertigkeit{frmAddFertigkeit, "cmdAddFertigkeit", {.caption = "Hinzufügen!", .enabled = false, .tab = 3, .at = {.row = 0, .column = 2, .rows = 2}, .spoken = "Aktionsfertigkeit hinzufügen", .click = [this] { cmdAddFertigkeit_Click(); }}};
 
-  Frame         frmVerwaltungAF  {*this,           "frmVerwaltungAF",   {.caption = "Aktionsfertigkeiten verwalten", .tab = 4, .at = {.row = 1}}};
-  ListBox       lstAFertigkeiten {frmVerwaltungAF, "lstAFertigkeiten",  {.tab = 5, .at = {.row = 0, .column = 0, .rows = 3}, .spoken = "Aktionsfertigkeiten", .click = [this] { lstAFertigkeiten_Click(); }}};
-  CommandButton cmdFertigkeitPlus {frmVerwaltungAF, "cmdFertigkeitPlus",  {.caption = "+", .tab = 6, .at = {.row = 0, .column = 1}, .spoken = "Stufe plus",  .click = [this] { cmdFertigkeitPlus_Click(); }}};
-  CommandButton cmdFertigkeitMinus{frmVerwaltungAF, "cmdFertigkeitMinus", {.caption = "-", .tab = 7, .at = {.row = 1, .column = 1}, .spoken = "Stufe minus", .click = [this] { cmdFertigkeitMinus_Click(); }}};
+  Frame         frmVerwaltungAF  {*this,           "frmVerwaltungAF",   {.caption = "Aktionsfertigkeiten verwalten", .tab = 4, .at = {.row = 1}, .stretch = {.rows = {0, 0, 0, 1}, .columns = {3, 0, 0, 0, 1}}}};
+  ListBox       lstAFertigkeiten {frmVerwaltungAF, "lstAFertigkeiten",  {.characters = 44, .lines = 10, .tab = 5, .at = {.row = 0, .column = 0, .rows = 4}, .spoken = "Aktionsfertigkeiten", .click = [this] { lstAFertigkeiten_Click(); }}};
+  CommandButton cmdFertigkeitPlus {frmVerwaltungAF, "cmdFertigkeitPlus",  {.caption = "+", .characters = 3, .tab = 6, .at = {.row = 0, .column = 1, .columns = 3}, .spoken = "Stufe plus",  .click = [this] { cmdFertigkeitPlus_Click(); }}};
+  CommandButton cmdFertigkeitMinus{frmVerwaltungAF, "cmdFertigkeitMinus", {.caption = "-", .characters = 3, .tab = 7, .at = {.row = 1, .column = 1, .columns = 3}, .spoken = "Stufe minus", .click = [this] { cmdFertigkeitMinus_Click(); }}};
 
   Frame         frmZugAttr   {frmAddFertigkeit, "frmZugAttr",    {.caption = "Zugehöriges Attribut", .tab = 8, .at = {.row = 0, .column = 1, .rows = 2}}};
   OptionButton  optAFKonst   {frmZugAttr, "optAFKonst",    {.caption = "Konstitution",  .tab = 9,  .at = {.row = 0, .column = 0}, .click = [this] { optAFKonst_Click(); }}};
@@ -52,26 +52,26 @@ class FormAktionFertigkeit final : public FormWith<AktionFertigkeitVariables> {
   OptionButton  optAFWill    {frmZugAttr, "optAFWill",     {.caption = "Willenskraft",  .tab = 14, .at = {.row = 2, .column = 2}, .click = [this] { optAFWill_Click(); }}};
   OptionButton  optAFReaktion{frmZugAttr, "optAFReaktion", {.caption = "Reaktion",      .tab = 15, .at = {.row = 0, .column = 4}, .click = [this] { optAFReaktion_Click(); }}};
 
-  Frame         frmSpezi   {frmVerwaltungAF, "frmSpezi",    {.caption = "Spezialisierung", .enabled = false, .tab = 16, .at = {.row = 1, .column = 2, .rows = 2}}};
+  Frame         frmSpezi   {frmVerwaltungAF, "frmSpezi",    {.caption = "Spezialisierung", .enabled = false, .tab = 16, .at = {.row = 1, .column = 4, .rows = 2}}};
   TextBox       txtSpezi   {frmSpezi,        "txtSpezi",    {.tab = 17, .at = {.row = 0, .align = Place::Align::top}, .spoken = "Name der Spezialisierung", .change = [this] { txtSpezi_Change(); }}};
   CommandButton cmdAddSpezi{frmSpezi,        "cmdAddSpezi", {.caption = "Hinzufügen!", .enabled = false, .tab = 18, .at = {.row = 1, .align = Place::Align::top}, .spoken = "Spezialisierung hinzufügen", .click = [this] { cmdAddSpezi_Click(); }}};
 
-  Label lblAktuellFertPunkte      {frmVerwaltungAF, "lblAktuellFertPunkte",       {.caption = "0", .bold = true, .tab = 19, .at = {.row = 2, .column = 1, .align = Place::Align::left}, .spoken = "Ausgegebene Fertigkeitspunkte"}};
-  Label lblvon2                   {frmVerwaltungAF, "lblvon2",                    {.caption = "von", .tab = 20, .at = {.row = 2, .column = 1, .align = Place::Align::centre}}};
-  Label lblTotalFertigkeitenPunkte{frmVerwaltungAF, "lblTotalFertigkeitenPunkte", {.caption = "0", .bold = true, .tab = 21, .at = {.row = 2, .column = 1, .align = Place::Align::right}, .spoken = "Fertigkeitspunkte insgesamt"}};
+  Label lblAktuellFertPunkte      {frmVerwaltungAF, "lblAktuellFertPunkte",       {.caption = "0", .bold = true, .centred = true, .characters = 4, .tab = 19, .at = {.row = 2, .column = 1}, .spoken = "Ausgegebene Fertigkeitspunkte"}};
+  Label lblvon2                   {frmVerwaltungAF, "lblvon2",                    {.caption = "von", .centred = true, .tab = 20, .at = {.row = 2, .column = 2}}};
+  Label lblTotalFertigkeitenPunkte{frmVerwaltungAF, "lblTotalFertigkeitenPunkte", {.caption = "0", .bold = true, .centred = true, .characters = 4, .tab = 21, .at = {.row = 2, .column = 3}, .spoken = "Fertigkeitspunkte insgesamt"}};
 
   OptionButton optAFMagie{frmZugAttr, "optAFMagie", {.caption = "Magie", .tab = 22, .at = {.row = 1, .column = 4}, .click = [this] { optAFMagie_Click(); }}};
 
-  Label lblREMkonst   {frmZugAttr, "lblREMkonst",    {.tab = 23, .at = {.row = 0, .column = 1}, .spoken = "Konstitution"}};
-  Label lblREMcharisma{frmZugAttr, "lblREMcharisma", {.tab = 24, .at = {.row = 0, .column = 3}, .spoken = "Charisma"}};
-  Label lblREMschnell {frmZugAttr, "lblREMschnell",  {.tab = 25, .at = {.row = 1, .column = 1}, .spoken = "Schnelligkeit"}};
-  Label lblREMintell  {frmZugAttr, "lblREMintell",   {.tab = 26, .at = {.row = 1, .column = 3}, .spoken = "Intelligenz"}};
-  Label lblREMstark   {frmZugAttr, "lblREMstark",    {.tab = 27, .at = {.row = 2, .column = 1}, .spoken = "Stärke"}};
-  Label lblREMwill    {frmZugAttr, "lblREMwill",     {.tab = 28, .at = {.row = 2, .column = 3}, .spoken = "Willenskraft"}};
-  Label lblREMreaktion{frmZugAttr, "lblREMreaktion", {.tab = 29, .at = {.row = 0, .column = 5}, .spoken = "Reaktion"}};
-  Label lblREMmagie   {frmZugAttr, "lblREMmagie",    {.tab = 30, .at = {.row = 1, .column = 5}, .spoken = "Magie"}};
+  Label lblREMkonst   {frmZugAttr, "lblREMkonst",    {.characters = 5, .tab = 23, .at = {.row = 0, .column = 1}, .spoken = "Konstitution"}};
+  Label lblREMcharisma{frmZugAttr, "lblREMcharisma", {.characters = 5, .tab = 24, .at = {.row = 0, .column = 3}, .spoken = "Charisma"}};
+  Label lblREMschnell {frmZugAttr, "lblREMschnell",  {.characters = 5, .tab = 25, .at = {.row = 1, .column = 1}, .spoken = "Schnelligkeit"}};
+  Label lblREMintell  {frmZugAttr, "lblREMintell",   {.characters = 5, .tab = 26, .at = {.row = 1, .column = 3}, .spoken = "Intelligenz"}};
+  Label lblREMstark   {frmZugAttr, "lblREMstark",    {.characters = 5, .tab = 27, .at = {.row = 2, .column = 1}, .spoken = "Stärke"}};
+  Label lblREMwill    {frmZugAttr, "lblREMwill",     {.characters = 5, .tab = 28, .at = {.row = 2, .column = 3}, .spoken = "Willenskraft"}};
+  Label lblREMreaktion{frmZugAttr, "lblREMreaktion", {.characters = 5, .tab = 29, .at = {.row = 0, .column = 5}, .spoken = "Reaktion"}};
+  Label lblREMmagie   {frmZugAttr, "lblREMmagie",    {.characters = 5, .tab = 30, .at = {.row = 1, .column = 5}, .spoken = "Magie"}};
 
-  CommandButton cmdafertcompl   {frmVerwaltungAF, "cmdafertcompl",    {.caption = "Aktionsfertigkeiten vollständig, Spezialisierung hinzufügen!", .enabled = false, .tab = 31, .at = {.row = 0, .column = 2}, .click = [this] { cmdafertcompl_Click(); }}};
+  CommandButton cmdafertcompl   {frmVerwaltungAF, "cmdafertcompl",    {.caption = "Aktionsfertigkeiten vollständig, Spezialisierung hinzufügen!", .lines = 2, .enabled = false, .tab = 31, .at = {.row = 0, .column = 4}, .click = [this] { cmdafertcompl_Click(); }}};
   CommandButton cmddisformisready{*this,          "cmddisformisready", {.caption = "Weiter!", .enabled = false, .tab = 32, .at = {.row = 2, .align = Place::Align::right}, .click = [this] { cmddisformisready_Click(); }}};
   // clang-format on
 

@@ -42,13 +42,13 @@ class FormWissensfertigkeit final : public FormWith<WissensfertigkeitVariables> 
   Label         lblNameWFertigkeit{frmAddWFertigkeit, "lblNameWFertigkeit", {.caption = "Name der Fertigkeit", .tab = 3, .at = {.row = 0, .column = 0}}};
 
   Frame         Frame1       {*this,  "Frame1",        {.caption = "Sprache hinzufügen", .tab = 4, .at = {.row = 0, .column = 1}}};
-  TextBox       txtSprache   {Frame1, "txtSprache",    {.tab = 5, .at = {.row = 0, .column = 0}, .spoken = "Name der Sprache", .change = [this] { txtSprache_Change(); }}};
-  CommandButton cmdAddSprache{Frame1, "cmdAddSprache", {.caption = "Hinzufügen!", .enabled = false, .tab = 6, .at = {.row = 0, .column = 1}, .spoken = "Sprache hinzufügen", .click = [this] { cmdAddSprache_Click(); }}};
+  TextBox       txtSprache   {Frame1, "txtSprache",    {.tab = 5, .at = {.row = 1, .column = 0}, .spoken = "Name der Sprache", .change = [this] { txtSprache_Change(); }}};
+  CommandButton cmdAddSprache{Frame1, "cmdAddSprache", {.caption = "Hinzufügen!", .enabled = false, .tab = 6, .at = {.row = 0, .column = 1, .rows = 2}, .spoken = "Sprache hinzufügen", .click = [this] { cmdAddSprache_Click(); }}};
 
-  Frame         frmWFertVerwalt {*this,           "frmWFertVerwalt",  {.caption = "Wissensfertigkeiten verwalten", .tab = 7, .at = {.row = 1, .column = 0, .columns = 2}}};
-  ListBox       lstWFertigkeiten{frmWFertVerwalt, "lstWFertigkeiten", {.tab = 8, .at = {.row = 0, .column = 0, .rows = 2}, .spoken = "Wissensfertigkeiten", .click = [this] { lstWFertigkeiten_Click(); }}};
-  CommandButton cmdPlusWFert    {frmWFertVerwalt, "cmdPlusWFert",     {.caption = "+", .tab = 9,  .at = {.row = 0, .column = 2}, .spoken = "Stufe plus",  .click = [this] { cmdPlusWFert_Click(); }}};
-  CommandButton cmdMinusWFert   {frmWFertVerwalt, "cmdMinusWFert",    {.caption = "-", .tab = 10, .at = {.row = 1, .column = 2}, .spoken = "Stufe minus", .click = [this] { cmdMinusWFert_Click(); }}};
+  Frame         frmWFertVerwalt {*this,           "frmWFertVerwalt",  {.caption = "Wissensfertigkeiten verwalten", .tab = 7, .at = {.row = 1, .column = 0, .columns = 2}, .stretch = {.rows = {0, 0, 1}, .columns = {1, 1, 0, 0}}}};
+  ListBox       lstWFertigkeiten{frmWFertVerwalt, "lstWFertigkeiten", {.characters = 42, .lines = 12, .tab = 8, .at = {.row = 0, .column = 0, .rows = 3}, .spoken = "Wissensfertigkeiten", .click = [this] { lstWFertigkeiten_Click(); }}};
+  CommandButton cmdPlusWFert    {frmWFertVerwalt, "cmdPlusWFert",     {.caption = "+", .characters = 3, .tab = 9,  .at = {.row = 0, .column = 2}, .spoken = "Stufe plus",  .click = [this] { cmdPlusWFert_Click(); }}};
+  CommandButton cmdMinusWFert   {frmWFertVerwalt, "cmdMinusWFert",    {.caption = "-", .characters = 3, .tab = 10, .at = {.row = 1, .column = 2}, .spoken = "Stufe minus", .click = [this] { cmdMinusWFert_Click(); }}};
   Frame         frmFreeWPunkte  {frmWFertVerwalt, "frmFreeWPunkte",   {.caption = "Freie Wissenspunkte", .tab = 11, .at = {.row = 0, .column = 3}}};
   Frame         Frame2          {frmWFertVerwalt, "Frame2",           {.caption = "Freie Sprachpunkte",  .tab = 12, .at = {.row = 1, .column = 3}}};
   Label         lblWissensPunkte{frmFreeWPunkte,  "lblWissensPunkte", {.centred = true, .tab = 13, .spoken = "Freie Wissenspunkte"}};
@@ -56,7 +56,7 @@ class FormWissensfertigkeit final : public FormWith<WissensfertigkeitVariables> 
 
   CommandButton cmdGoAhead{*this, "cmdGoAhead", {.caption = "Weiter!", .enabled = false, .tab = 15, .at = {.row = 2, .column = 1, .align = Place::Align::right}, .click = [this] { cmdGoAhead_Click(); }}};
 
-  ListBox lstSprachen{frmWFertVerwalt, "lstSprachen", {.tab = 16, .at = {.row = 0, .column = 1, .rows = 2}, .spoken = "Sprachen", .click = [this] { lstSprachen_Click(); }}};
+  ListBox lstSprachen{frmWFertVerwalt, "lstSprachen", {.characters = 42, .lines = 12, .tab = 16, .at = {.row = 0, .column = 1, .rows = 3}, .spoken = "Sprachen", .click = [this] { lstSprachen_Click(); }}};
   // clang-format on
 
  private:

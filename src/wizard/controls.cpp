@@ -36,13 +36,16 @@ bool Control::gesture(const Handler& action) {
 }
 
 Frame::Frame(Container& in, std::string_view name, FrameDesign design)
-    : Control(in, name, {design.enabled, design.tab, design.at, design.spoken}), caption_(design.caption) {}
+    : Control(in, name, {design.enabled, design.tab, design.at, design.spoken}),
+      caption_(design.caption),
+      margin_(design.margin),
+      stretch_(std::move(design.stretch)) {}
 
 PictureBox::PictureBox(Container& in, std::string_view name, PictureBoxDesign design)
     : Control(in, name, {true, {}, design.at, {}}) {}
 
 Line::Line(Container& in, std::string_view name, LineDesign design)
-    : Control(in, name, {true, {}, design.at, {}}), stroke_(design.stroke) {}
+    : Control(in, name, {true, {}, design.at, {}}), design_(design) {}
 
 Label::Label(Container& in, std::string_view name, LabelDesign design)
     : Control(in, name, {design.enabled, design.tab, design.at, design.spoken}),
@@ -62,6 +65,8 @@ void Label::reset() {
 CommandButton::CommandButton(Container& in, std::string_view name, CommandButtonDesign design)
     : Control(in, name, {design.enabled, design.tab, design.at, design.spoken}),
       caption_(design.caption),
+      characters_(design.characters),
+      lines_(design.lines),
       click_(std::move(design.click)) {}
 
 OptionButton::OptionButton(Container& in, std::string_view name, OptionButtonDesign design)
@@ -129,6 +134,7 @@ ComboBox::ComboBox(Container& in, std::string_view name, ComboBoxDesign design)
     : Control(in, name, {design.enabled, design.tab, design.at, design.spoken}),
       designedText_(design.text),
       designedEntries_(design.entries.begin(), design.entries.end()),
+      characters_(design.characters),
       sorted_(design.sorted),
       click_(std::move(design.click)),
       text_(design.text),
@@ -187,7 +193,10 @@ void ComboBox::reset() {
 }
 
 ListBox::ListBox(Container& in, std::string_view name, ListBoxDesign design)
-    : Control(in, name, {design.enabled, design.tab, design.at, design.spoken}), click_(std::move(design.click)) {}
+    : Control(in, name, {design.enabled, design.tab, design.at, design.spoken}),
+      charactersShown_(design.characters),
+      linesShown_(design.lines),
+      click_(std::move(design.click)) {}
 
 const std::vector<std::string>& ListBox::lines() const {
   touch();

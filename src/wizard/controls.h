@@ -131,6 +131,8 @@ struct FrameDesign {
   std::optional<int> tab{};
   Place at{};
   std::string_view spoken{};
+  int margin = 8;  // pixels between outline and content at 100 %
+  Stretch stretch{};
 };
 
 // Disabling a frame disables whatever is in it; its controls keep their own state.
@@ -141,10 +143,14 @@ class Frame final : public Control, public Container {
   [[nodiscard]] std::string_view name() const override { return Control::name(); }
   [[nodiscard]] Form& form() override { return Control::form(); }
   [[nodiscard]] bool isUsable() const override { return Control::isUsable(); }
+  [[nodiscard]] int margin() const { return margin_; }
+  [[nodiscard]] const Stretch& stretch() const override { return stretch_; }
   void accept(ControlVisitor& visitor) override { visitor.visit(*this); }
 
  private:
   std::string_view caption_;
+  int margin_;
+  Stretch stretch_;
 };
 
 struct PictureBoxDesign {
@@ -158,22 +164,32 @@ class PictureBox final : public Control, public Container {
   [[nodiscard]] std::string_view name() const override { return Control::name(); }
   [[nodiscard]] Form& form() override { return Control::form(); }
   [[nodiscard]] bool isUsable() const override { return Control::isUsable(); }
+  [[nodiscard]] const Stretch& stretch() const override { return stretch_; }
   void accept(ControlVisitor& visitor) override { visitor.visit(*this); }
+
+ private:
+  Stretch stretch_;
 };
 
+// A stroke runs along the middle of its cells, from the edge or the middle of the first to the edge or the middle of the
+// last, so that strokes that share a cell can meet in it.
 struct LineDesign {
   Place at{};
   enum class Stroke { horizontal, vertical } stroke = Stroke::horizontal;
+  enum class End { edge, middle } from = End::edge;
+  End to = End::edge;
 };
 
 class Line final : public Control {
  public:
   Line(Container& in, std::string_view name, LineDesign design);
-  [[nodiscard]] LineDesign::Stroke stroke() const { return stroke_; }
+  [[nodiscard]] LineDesign::Stroke stroke() const { return design_.stroke; }
+  [[nodiscard]] LineDesign::End from() const { return design_.from; }
+  [[nodiscard]] LineDesign::End to() const { return design_.to; }
   void accept(ControlVisitor& visitor) override { visitor.visit(*this); }
 
  private:
-  LineDesign::Stroke stroke_;
+  LineDesign design_;
 };
 
 struct LabelDesign {
@@ -182,6 +198,7 @@ struct LabelDesign {
   bool bold = false;
   double size = 8.25;  // points
   bool centred = false;
+  int characters = 0;    // room kept for at least so many
   std::optional<int> tab{};
   Place at{};
   std::string_view spoken{};
@@ -195,6 +212,7 @@ class Label final : public Control {
   [[nodiscard]] bool isBold() const { return design_.bold; }
   [[nodiscard]] double size() const { return design_.size; }
   [[nodiscard]] bool isCentred() const { return design_.centred; }
+  [[nodiscard]] int characters() const { return design_.characters; }
   void accept(ControlVisitor& visitor) override { visitor.visit(*this); }
 
  private:
@@ -205,6 +223,8 @@ class Label final : public Control {
 
 struct CommandButtonDesign {
   std::string_view caption{};
+  int characters = 12;  // room kept for at least so many
+  int lines = 1;        // on how many the caption stands
   bool enabled = true;
   std::optional<int> tab{};
   Place at{};
@@ -216,12 +236,16 @@ class CommandButton final : public Control {
  public:
   CommandButton(Container& in, std::string_view name, CommandButtonDesign design);
   [[nodiscard]] std::string_view caption() const { return caption_; }
+  [[nodiscard]] int characters() const { return characters_; }
+  [[nodiscard]] int lines() const { return lines_; }
   // Gesture: the player presses the button.
   bool press() { return gesture(click_); }
   void accept(ControlVisitor& visitor) override { visitor.visit(*this); }
 
  private:
   std::string_view caption_;
+  int characters_;
+  int lines_;
   Handler click_;
 };
 
@@ -255,6 +279,7 @@ class OptionButton final : public Control {
 
 struct TextBoxDesign {
   std::string_view text{};
+  int characters = 24;  // shown without scrolling, at least
   bool enabled = true;
   std::optional<int> tab{};
   Place at{};
@@ -270,6 +295,7 @@ class TextBox final : public Control {
   // How many characters from the start are selected.
   [[nodiscard]] int selLength() const { return selLength_; }
   void setSelLength(int characters) { change(selLength_, characters); }
+  [[nodiscard]] int characters() const { return design_.characters; }
   // Gesture: the player replaces the whole text. It passes the gate for typed text; an equal text raises nothing.
   bool type(std::string_view typed);
   void accept(ControlVisitor& visitor) override { visitor.visit(*this); }
@@ -284,6 +310,7 @@ class TextBox final : public Control {
 struct ComboBoxDesign {
   std::string_view text{};
   std::initializer_list<std::string_view> entries{};
+  int characters = 24;  // shown without scrolling, at least
   bool sorted = false;
   bool enabled = true;
   std::optional<int> tab{};
@@ -300,6 +327,7 @@ class ComboBox final : public Control {
   [[nodiscard]] const std::string& text() const;
   [[nodiscard]] const std::vector<std::string>& entries() const;
   [[nodiscard]] bool isSorted() const { return sorted_; }
+  [[nodiscard]] int characters() const { return characters_; }
   void addItem(std::string entry);
   // Gesture: the player types into the edit field. It passes the gate for typed text and raises nothing.
   bool type(std::string_view typed);
@@ -312,6 +340,7 @@ class ComboBox final : public Control {
   void sortEntries() const;
   std::string_view designedText_;
   std::vector<std::string> designedEntries_;
+  int characters_;
   bool sorted_;
   Handler click_;
   std::string text_;
@@ -320,6 +349,8 @@ class ComboBox final : public Control {
 };
 
 struct ListBoxDesign {
+  int characters = 32;  // shown without scrolling, at least, and so many
+  int lines = 6;
   bool enabled = true;
   std::optional<int> tab{};
   Place at{};
@@ -335,6 +366,8 @@ class ListBox final : public Control {
   [[nodiscard]] std::optional<std::size_t> selected() const { return selected_; }
   // The selected line, empty if there is none.
   [[nodiscard]] std::string text() const;
+  [[nodiscard]] int charactersShown() const { return charactersShown_; }
+  [[nodiscard]] int linesShown() const { return linesShown_; }
   void addItem(std::string line);
   void clear();
   // Gesture: the player clicks a line, the selected one included.
@@ -343,6 +376,8 @@ class ListBox final : public Control {
 
  private:
   void reset() override;
+  int charactersShown_;
+  int linesShown_;
   Handler click_;
   std::vector<std::string> lines_;
   std::optional<std::size_t> selected_;

@@ -85,7 +85,8 @@ void Files::read(std::string_view name, std::string& bytes) {
     if (more < 0 && errno == EINTR) continue;
     if (more < 0) throwFault(name, "gelesen", errno);
     count += static_cast<std::size_t>(more);
-    if (more == 0) break;
+    const bool hasRoom = count < bytes.size();
+    if (more == 0 || (hasRoom && count == static_cast<std::size_t>(status.st_size))) break;
     if (count > mostBytes) throwFault(name, "gelesen", EFBIG);
     if (count == bytes.size()) bytes.resize(2 * count);
   }

@@ -9,7 +9,7 @@
 namespace bogenwerker {
 
 Form::Form(FormsRuntime& runtime, std::string_view name, FormDesign design)
-    : runtime_(runtime), name_(name), design_(design) {
+    : runtime_(runtime), name_(name), design_(std::move(design)) {
   runtime.forms_.push_back(this);
 }
 
@@ -115,11 +115,12 @@ void FormsRuntime::undoAll() {
 
 // Windows that appear come before windows that go, so that the screen is never empty in between.
 void FormsRuntime::publish() {
+  if (view_ == nullptr) return;
   std::vector<Form*> gone;
   for (Form* form : forms_) {
     const bool known = form->published_ == Form::State::hidden || form->published_ == Form::State::visible;
-    if (view_ != nullptr && !known && form->isLoaded()) view_->formLoaded(*form);
-    if (view_ != nullptr && known && !form->isLoaded()) gone.push_back(form);
+    if (!known && form->isLoaded()) view_->formLoaded(*form);
+    if (known && !form->isLoaded()) gone.push_back(form);
   }
   for (Control* control : std::exchange(changed_, {})) {
     control->isMarked_ = false;
@@ -127,7 +128,7 @@ void FormsRuntime::publish() {
   }
   for (const Form::State now : {Form::State::visible, Form::State::hidden}) {
     for (Form* form : forms_) {
-      if (view_ != nullptr && form->state_ == now && form->published_ != now) view_->formChanged(*form);
+      if (form->state_ == now && form->published_ != now) view_->formChanged(*form);
     }
   }
   for (Form* form : gone) view_->formUnloaded(*form);

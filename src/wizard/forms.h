@@ -15,6 +15,13 @@ class Control;
 class Form;
 class FormsRuntime;
 
+// How a container's grid shares out the room that is left over: a weight a row and a column, counted from 0. Those not
+// named take none; where all are missing, whatever can grow does.
+struct Stretch {
+  std::vector<int> rows{};
+  std::vector<int> columns{};
+};
+
 // What holds controls: a form, a frame, a picture box.
 class Container {
  public:
@@ -26,6 +33,7 @@ class Container {
   [[nodiscard]] virtual Form& form() = 0;
   // False if this or anything around it is disabled.
   [[nodiscard]] virtual bool isUsable() const = 0;
+  [[nodiscard]] virtual const Stretch& stretch() const = 0;
 
  protected:
   Container() = default;
@@ -35,6 +43,7 @@ struct FormDesign {
   std::string_view caption{};
   // The look of the wizard's forms is the front end's; this one keeps the toolkit's font and opens in the middle.
   bool isDialog = false;
+  Stretch stretch{};
 };
 
 // A form bears its control table: one member a control. It is no window, and holds nothing that only a screen needs.
@@ -49,6 +58,7 @@ class Form : public Container {
   [[nodiscard]] bool isDialog() const { return design_.isDialog; }
   [[nodiscard]] Form& form() override { return *this; }
   [[nodiscard]] bool isUsable() const override { return true; }
+  [[nodiscard]] const Stretch& stretch() const override { return design_.stretch; }
   // In the order of the control table.
   [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
 

@@ -160,7 +160,10 @@ std::string textOf(Single value, const NumberLocale& locale) {
                                   std::chars_format::scientific, 6).ptr;
   const std::string_view written(buffer.data(), end);
   const std::size_t e = written.find('e');
-  const int exponent = std::atoi(std::string(written.substr(e + 1)).c_str());
+  const std::size_t sign = e + 1;
+  int exponent = 0;
+  std::from_chars(written.data() + sign + 1, end, exponent);
+  if (written[sign] == '-') exponent = -exponent;
   std::string digits(1, written[0]);
   digits += written.substr(2, e - 2);
   return plainDecimal(value < 0, std::move(digits), 6 - exponent, locale.decimalSeparator);
@@ -178,6 +181,7 @@ std::optional<Currency> currencyOf(std::string_view typed, const NumberLocale& l
 }
 
 std::optional<Integer> parseInteger(std::string_view field) {
+  if (field.size() == 1 && isDigit(field[0])) return field[0] - '0';  // most are
   field = withoutBlanksBehind(field);
   if (field.empty()) return 0;
   if (field.front() == '+' && field.size() > 1 && isDigit(field[1])) field.remove_prefix(1);

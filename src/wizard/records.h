@@ -40,17 +40,17 @@ class RecordReader {
     return takeField();
   }
   // Passes over the rest of a record.
-  void skip(int fields) {
-    while (fields-- > 0) takeField();
-  }
+  void skip(int fields);
 
   // Where the next field begins, in bytes, and whether a line begins there.
   [[nodiscard]] std::size_t position() const { return position_; }
   [[nodiscard]] bool atLineStart() const;
+  // To where the next line begins; stays where one does.
   void skipLine();
 
  private:
   std::string_view takeField();
+  bool skipPlainLine(int fields);
   void take(std::string& target);
   void take(Integer& target);
   void take(Single& target);
@@ -58,7 +58,7 @@ class RecordReader {
   void take(bool& target);
   void take(Untyped& target);
   template <class Number>
-  Number number(std::optional<Number> parsed, std::string_view field, std::string_view kind) const {
+  [[nodiscard]] Number number(std::optional<Number> parsed, std::string_view field, std::string_view kind) const {
     if (!parsed) throwWrongType(field, kind);
     return *parsed;
   }

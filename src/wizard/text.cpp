@@ -16,7 +16,17 @@ constexpr std::array<char32_t, 32> upperControls = {
 constexpr char32_t notUtf8 = 0xFFFFFFFF;
 
 bool isAscii(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  unsigned char all = 0;
+  for (const char c : text) all |= static_cast<unsigned char>(c);
+  return all < 0x80;
+}
+
+// Takes the ASCII characters off the front of a text.
+std::string_view takeAscii(std::string_view& text) {
+  const auto end = std::find_if(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+  const std::string_view front = text.substr(0, static_cast<std::size_t>(end - text.begin()));
+  text.remove_prefix(front.size());
+  return front;
 }
 
 // Takes the first character off the text, or one byte and notUtf8.
@@ -97,22 +107,25 @@ std::string utf8FromCp1252(std::string_view bytes) {
   if (isAscii(bytes)) return std::string(bytes);
   std::string text;
   text.reserve(bytes.size() + bytes.size() / 4 + 4);
-  for (const char c : bytes) {
-    const auto byte = static_cast<unsigned char>(c);
-    appendUtf8(text, byte >= 0x80 && byte < 0xA0 ? upperControls[byte - 0x80U] : byte);
+  while (true) {
+    text.append(takeAscii(bytes));
+    if (bytes.empty()) return text;
+    const auto byte = static_cast<unsigned char>(bytes.front());
+    appendUtf8(text, byte < 0xA0 ? upperControls[byte - 0x80U] : byte);
+    bytes.remove_prefix(1);
   }
-  return text;
 }
 
 std::string cp1252FromUtf8(std::string_view text) {
   if (isAscii(text)) return std::string(text);
   std::string bytes;
   bytes.reserve(text.size());
-  while (!text.empty()) {
+  while (true) {
+    bytes.append(takeAscii(text));
+    if (text.empty()) return bytes;
     const int byte = cp1252Byte(takeCharacter(text));
     if (byte >= 0) bytes += static_cast<char>(byte);
   }
-  return bytes;
 }
 
 std::string gateTyped(std::string_view text) {
@@ -129,12 +142,12 @@ std::string gateTyped(std::string_view text) {
 bool looksLikeUtf8(std::string_view bytes) {
   if (bytes.starts_with("\xEF\xBB\xBF")) return true;
   bool aboveAscii = false;
-  while (!bytes.empty()) {
-    const char32_t character = takeCharacter(bytes);
-    if (character == notUtf8) return false;
-    aboveAscii = aboveAscii || character >= 0x80;
+  while (true) {
+    takeAscii(bytes);
+    if (bytes.empty()) return aboveAscii;
+    if (takeCharacter(bytes) == notUtf8) return false;
+    aboveAscii = true;
   }
-  return aboveAscii;
 }
 
 std::string_view utf8Prefix(std::string_view text, std::size_t bytes) {
@@ -147,10 +160,14 @@ std::string germanSortKey(std::string_view text) {
   std::string letters;
   std::string accents;
   std::string cases;
+  letters.reserve(4 * text.size());  // for all three
+  accents.reserve(2 * text.size());
+  cases.reserve(text.size());
   while (!text.empty()) {
     const char32_t character = takeCharacter(text);
     const char32_t small = smallLetter(character);
-    const auto* entry = std::find_if(marked.begin(), marked.end(), [small](const SortLetter& row) {
+    const auto* const first = small < 0x80 ? marked.end() : marked.begin();  // ASCII letters bear no marks
+    const auto* entry = std::find_if(first, marked.end(), [small](const SortLetter& row) {
       return row.letters.find(small) != std::u32string_view::npos;
     });
     if (entry == marked.end()) {
@@ -162,7 +179,8 @@ std::string germanSortKey(std::string_view text) {
     appendUtf8(accents, entry == marked.end() ? char32_t{1} : small);
     cases += small == character ? '\1' : '\2';
   }
-  return letters + '\0' + accents + '\0' + cases;
+  letters.append(1, '\0').append(accents).append(1, '\0').append(cases);
+  return letters;
 }
 
 std::string lowerAscii(std::string_view text) {

@@ -1,4 +1,4 @@
-#include "attributes/berechneReaktion.h"
+#include "zusatzmodul/berechneReaktion.h"
 
 #include <cmath>
 

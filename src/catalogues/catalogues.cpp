@@ -1,4 +1,4 @@
-#include "equipment/catalogues.h"
+#include "catalogues/catalogues.h"
 
 #include "wizard/fault.h"
 #include "wizard/text.h"
@@ -54,8 +54,10 @@ void checkCatalogue(Files& files, std::string_view file, int mostRows, std::vect
   }
 
   RecordReader reader(file, bytes);
+  constexpr int mostFaults = 100;  // some other file of that name would keep the player waiting
   std::size_t lastInStep = 0;
   int rows = 0;
+  int found = 0;
   while (!reader.atEnd()) {
     if (reader.atLineStart()) lastInStep = reader.position();
     const std::size_t start = reader.position();
@@ -69,6 +71,10 @@ void checkCatalogue(Files& files, std::string_view file, int mostRows, std::vect
     } catch (const Fault& fault) {
       std::string blame = blameLine(file, bytes, lastInStep, reader.position(), Row::fields);
       faults.push_back(blame.empty() ? fault.what() : std::move(blame));
+      if (++found == mostFaults) {
+        faults.push_back(std::string(file) + ": Nach " + std::to_string(found) + " Fehlern endet hier die Prüfung.");
+        return;
+      }
       reader.skipLine();
     }
   }

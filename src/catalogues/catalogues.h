@@ -97,8 +97,8 @@ void forEachRowNamed(Files& files, std::string_view file, std::string_view name,
   files.read(file, buffer);
   RecordReader reader(file, buffer);
   std::size_t next = findText(buffer, name, 0);
+  Row row;
   while (next != std::string_view::npos && !reader.atEnd()) {
-    Row row;
     if (reader.readRaw() == name) {
       row.readRest(reader);
       take(row);
