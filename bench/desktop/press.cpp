@@ -9,9 +9,9 @@
 #include <chrono>
 #include <fstream>
 
+#include "catalogues/catalogues.h"
 #include "desktop/desktop.h"
 #include "desktop/text.h"
-#include "catalogues/catalogues.h"
 #include "headless/gestures.h"
 #include "sequence/wizard.h"
 
@@ -20,7 +20,8 @@ namespace {
 
 void fill(const QString& name, const char* rest, int rows) {
   std::ofstream file(name.toStdString());
-  for (int i = 1; i <= rows; ++i) file << '"' << name.toStdString() << " von der Stange, Nummer " << i << '"' << rest << "\r\n";
+  for (int i = 1; i <= rows; ++i)
+    file << '"' << name.toStdString() << " von der Stange, Nummer " << i << '"' << rest << "\r\n";
 }
 
 void fillCatalogues() {
