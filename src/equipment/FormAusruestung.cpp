@@ -55,62 +55,54 @@ void FormAusrüstung::Form_Load() {
   ladeCyberdecks();
 }
 
-void FormAusrüstung::ladeLebensstil() {
-  forEachRow<PriceRow>(environment().files, "Lebensstil.txt", [this](const PriceRow& row) {
-    kataloge.LebensstilName[kataloge.zaehlerLebensstil] = row.name;
-    kataloge.LebensstilKosten[kataloge.zaehlerLebensstil] = row.kosten;
-    cmbLebensstil.addItem(row.name);
-    ++kataloge.zaehlerLebensstil;
+template <class Row, class Names, class Store>
+void FormAusrüstung::lade(std::string_view file, ComboBox& box, Integer& zaehler, Names& names, Store store) {
+  forEachRow<Row>(environment().files, file, [&](const Row& row) {
+    names[zaehler] = row.name;
+    store(zaehler, row);
+    box.addItem(row.name);
+    ++zaehler;
   });
+}
+
+void FormAusrüstung::ladeLebensstil() {
+  lade<PriceRow>("Lebensstil.txt", cmbLebensstil, kataloge.zaehlerLebensstil, kataloge.LebensstilName,
+                 [this](Integer slot, const PriceRow& row) { kataloge.LebensstilKosten[slot] = row.kosten; });
 }
 
 void FormAusrüstung::ladeConnection() {
-  forEachRow<PriceRow>(environment().files, "Connection.txt", [this](const PriceRow& row) {
-    kataloge.ConnectionName[kataloge.zaehlerConnection] = row.name;
-    kataloge.ConnectionKosten[kataloge.zaehlerConnection] = row.kosten;
-    cmbConnection.addItem(row.name);
-    ++kataloge.zaehlerConnection;
-  });
+  lade<PriceRow>("Connection.txt", cmbConnection, kataloge.zaehlerConnection, kataloge.ConnectionName,
+                 [this](Integer slot, const PriceRow& row) { kataloge.ConnectionKosten[slot] = row.kosten; });
 }
 
 void FormAusrüstung::ladeMagicStuff() {
-  forEachRow<MagicRow>(environment().files, "MagicStuff.txt", [this](const MagicRow& row) {
-    kataloge.MagicName[kataloge.zaehlerMagic] = row.name;
-    kataloge.MagicSpruchpunkte[kataloge.zaehlerMagic] = row.spruchpunkte;
-    kataloge.MagicKosten[kataloge.zaehlerMagic] = row.kosten;
-    kataloge.MagicKraftpunkte[kataloge.zaehlerMagic] = row.kraftpunkte;
-    cmbMagic.addItem(row.name);
-    ++kataloge.zaehlerMagic;
-  });
+  lade<MagicRow>("MagicStuff.txt", cmbMagic, kataloge.zaehlerMagic, kataloge.MagicName,
+                 [this](Integer slot, const MagicRow& row) {
+                   kataloge.MagicSpruchpunkte[slot] = row.spruchpunkte;
+                   kataloge.MagicKosten[slot] = row.kosten;
+                   kataloge.MagicKraftpunkte[slot] = row.kraftpunkte;
+                 });
 }
 
 void FormAusrüstung::ladeCyberware() {
-  forEachRow<WareRow>(environment().files, "Cyberware.txt", [this](const WareRow& row) {
-    kataloge.CyberName[kataloge.zaehlerCyberware] = row.name;
-    kataloge.CyberEssenz[kataloge.zaehlerCyberware] = row.essenz;
-    kataloge.CyberKosten[kataloge.zaehlerCyberware] = row.kosten;
-    cmbCyberware.addItem(row.name);
-    ++kataloge.zaehlerCyberware;
-  });
+  lade<WareRow>("Cyberware.txt", cmbCyberware, kataloge.zaehlerCyberware, kataloge.CyberName,
+                [this](Integer slot, const WareRow& row) {
+                  kataloge.CyberEssenz[slot] = row.essenz;
+                  kataloge.CyberKosten[slot] = row.kosten;
+                });
 }
 
 void FormAusrüstung::ladeBioware() {
-  forEachRow<WareRow>(environment().files, "Bioware.txt", [this](const WareRow& row) {
-    kataloge.BioName[kataloge.zaehlerBioware] = row.name;
-    kataloge.BioIndexKosten[kataloge.zaehlerBioware] = row.essenz;
-    kataloge.BioKosten[kataloge.zaehlerBioware] = row.kosten;
-    cmbBioware.addItem(row.name);
-    ++kataloge.zaehlerBioware;
-  });
+  lade<WareRow>("Bioware.txt", cmbBioware, kataloge.zaehlerBioware, kataloge.BioName,
+                [this](Integer slot, const WareRow& row) {
+                  kataloge.BioIndexKosten[slot] = row.essenz;
+                  kataloge.BioKosten[slot] = row.kosten;
+                });
 }
 
 void FormAusrüstung::ladeCyberdecks() {
-  forEachRow<DeckRow>(environment().files, "Cyberdecks.txt", [this](const DeckRow& row) {
-    kataloge.DeckName[kataloge.zaehlerCyberdecks] = row.name;
-    kataloge.DeckKosten[kataloge.zaehlerCyberdecks] = row.kosten;
-    cmbCyberdecks.addItem(row.name);
-    ++kataloge.zaehlerCyberdecks;
-  });
+  lade<DeckRow>("Cyberdecks.txt", cmbCyberdecks, kataloge.zaehlerCyberdecks, kataloge.DeckName,
+                [this](Integer slot, const DeckRow& row) { kataloge.DeckKosten[slot] = row.kosten; });
 }
 
 void FormAusrüstung::richteMagieEin() {

@@ -136,6 +136,8 @@ class FormAusrüstung final : public FormWith<AusrüstungVariables> {
   void ZeigeEssenz();
   void ZeigeBioIndex();
 
+  template <class Row, class Names, class Store>
+  void lade(std::string_view file, ComboBox& box, Integer& zaehler, Names& names, Store store);
   void ladeLebensstil();
   void ladeConnection();
   void ladeMagicStuff();
