@@ -71,7 +71,8 @@ void FormAttributmonitor::checkREGEL() {
   if (lblVerbrAttributPunkte.caption() != lblTotalAttributPunkte.caption()) return;
 
   bool legal = true;
-  for (const Variant* Punkte : {&KonstPunkte, &SchnellPunkte, &StarkPunkte, &CharismaPunkte, &IntellPunkte, &WillPunkte}) {
+  for (const Variant* Punkte :
+       {&KonstPunkte, &SchnellPunkte, &StarkPunkte, &CharismaPunkte, &IntellPunkte, &WillPunkte}) {
     legal = legal && *Punkte < 7 && *Punkte > 0;
   }
   for (const Variant* Nat : {&NatKonst, &NatSchnell, &NatStark, &NatCharisma, &NatIntell, &NatWill}) {

@@ -1,7 +1,7 @@
 #include "attributes/uebergebeAttribute.h"
 
-#include "zusatzmodul/berechneReaktion.h"
 #include "skills/FormAktionFertigkeit.h"
+#include "zusatzmodul/berechneReaktion.h"
 
 namespace bogenwerker {
 

@@ -66,8 +66,8 @@ void checkCatalogue(Files& files, std::string_view file, int mostRows, std::vect
       Row row;
       readRow(reader, row);
       if (!row.name.empty() && row.name.find('"') == row.name.npos) continue;
-      throw Fault(std::string(file) + ", Zeile " + std::to_string(lineOf(bytes, start)) + ", Feld 1: " +
-                  (row.name.empty() ? "Der Name fehlt." : "Im Namen steht ein Anführungszeichen."));
+      throw Fault(std::string(file) + ", Zeile " + std::to_string(lineOf(bytes, start)) +
+                  ", Feld 1: " + (row.name.empty() ? "Der Name fehlt." : "Im Namen steht ein Anführungszeichen."));
     } catch (const Fault& fault) {
       std::string blame = blameLine(file, bytes, lastInStep, reader.position(), Row::fields);
       faults.push_back(blame.empty() ? fault.what() : std::move(blame));
@@ -99,8 +99,8 @@ std::size_t findText(std::string_view bytes, std::string_view text, std::size_t 
     const char* const lasts = firsts + apart;
     unsigned char any = 0;
     for (std::size_t i = 0; i < block; ++i) {
-      any = static_cast<unsigned char>(any | (static_cast<unsigned char>(firsts[i] == first) &
-                                              static_cast<unsigned char>(lasts[i] == last)));
+      any = static_cast<unsigned char>(
+          any | (static_cast<unsigned char>(firsts[i] == first) & static_cast<unsigned char>(lasts[i] == last)));
     }
     if (any == 0) continue;
     const std::size_t found = bytes.substr(from, block + apart).find(text);

@@ -92,17 +92,10 @@ bool Desktop::eventFilter(QObject* watched, QEvent* event) {
 bool Desktop::zoomByKey(int key) {
   switch (key) {
     case Qt::Key_Plus:
-    case Qt::Key_Equal:
-      zoomTo(look_.zoom() + zoomStep);
-      return true;
-    case Qt::Key_Minus:
-      zoomTo(look_.zoom() - zoomStep);
-      return true;
-    case Qt::Key_0:
-      zoomTo(100);
-      return true;
-    default:
-      return false;
+    case Qt::Key_Equal: zoomTo(look_.zoom() + zoomStep); return true;
+    case Qt::Key_Minus: zoomTo(look_.zoom() - zoomStep); return true;
+    case Qt::Key_0: zoomTo(100); return true;
+    default: return false;
   }
 }
 

@@ -50,10 +50,8 @@ bool followsZoom(QStyle::PixelMetric metric) {
     case QStyle::PM_LayoutRightMargin:
     case QStyle::PM_LayoutBottomMargin:
     case QStyle::PM_LayoutHorizontalSpacing:
-    case QStyle::PM_LayoutVerticalSpacing:
-      return true;
-    default:
-      return false;
+    case QStyle::PM_LayoutVerticalSpacing: return true;
+    default: return false;
   }
 }
 
@@ -108,13 +106,10 @@ QSize Look::sizeFromContents(ContentsType type, const QStyleOption* option, cons
   if (type == CT_PushButton) return contents + QSize(scaled(16), scaled(10));
   const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
   switch (type) {
-    case CT_ItemViewItem:
-      return size + QSize(0, scaled(4));
+    case CT_ItemViewItem: return size + QSize(0, scaled(4));
     case CT_LineEdit:
-    case CT_ComboBox:
-      return {size.width(), option->fontMetrics.height() + scaled(10)};
-    default:
-      return size;
+    case CT_ComboBox: return {size.width(), option->fontMetrics.height() + scaled(10)};
+    default: return size;
   }
 }
 
@@ -135,9 +130,7 @@ void Look::drawPrimitive(PrimitiveElement element, const QStyleOption* option, Q
   painter->save();
   painter->setRenderHint(QPainter::Antialiasing);
   switch (element) {
-    case PE_FrameFocusRect:
-      drawFocus(*option, *painter);
-      break;
+    case PE_FrameFocusRect: drawFocus(*option, *painter); break;
     case PE_FrameGroupBox: {
       const int title =
           std::max(pixelMetric(PM_ExclusiveIndicatorHeight, option, widget), option->fontMetrics.height());
@@ -145,12 +138,8 @@ void Look::drawPrimitive(PrimitiveElement element, const QStyleOption* option, Q
       painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, title + 2.5, -0.5, -0.5), 3, 3);
       break;
     }
-    case PE_IndicatorRadioButton:
-      drawOption(*option, *painter);
-      break;
-    default:
-      painter->restore();
-      return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    case PE_IndicatorRadioButton: drawOption(*option, *painter); break;
+    default: painter->restore(); return QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
   painter->restore();
 }

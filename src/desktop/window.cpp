@@ -21,18 +21,12 @@ constexpr int spacing = 6;
 
 Qt::Alignment alignmentOf(Place::Align align) {
   switch (align) {
-    case Place::Align::fill:
-      return {};
-    case Place::Align::left:
-      return Qt::AlignLeft;
-    case Place::Align::right:
-      return Qt::AlignRight;
-    case Place::Align::centre:
-      return Qt::AlignCenter;
-    case Place::Align::top:
-      return Qt::AlignTop;
-    case Place::Align::bottom:
-      return Qt::AlignBottom;
+    case Place::Align::fill: return {};
+    case Place::Align::left: return Qt::AlignLeft;
+    case Place::Align::right: return Qt::AlignRight;
+    case Place::Align::centre: return Qt::AlignCenter;
+    case Place::Align::top: return Qt::AlignTop;
+    case Place::Align::bottom: return Qt::AlignBottom;
   }
   return {};
 }

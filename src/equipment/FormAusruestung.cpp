@@ -25,7 +25,9 @@ void forEachSlotNamed(const Names& names, Integer zaehler, const std::string& te
 }  // namespace
 
 FormAusrüstung::FormAusrüstung(FormsRuntime& runtime, FormFeinschliff& feinschliff, FormNamenGeben& namenGeben)
-    : FormWith(runtime, "formAusrüstung", {.caption = "Ausrüstung - Schritt 5", .stretch = {.rows = {0, 0, 0, 0, 0, 0, 0, 0, 1, 0}, .columns = {3, 0, 1, 1, 1}}}),
+    : FormWith(runtime, "formAusrüstung",
+               {.caption = "Ausrüstung - Schritt 5",
+                .stretch = {.rows = {0, 0, 0, 0, 0, 0, 0, 0, 1, 0}, .columns = {3, 0, 1, 1, 1}}}),
       formFeinschliff(feinschliff),
       formNamenGeben(namenGeben) {}
 

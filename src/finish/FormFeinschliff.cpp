@@ -2,11 +2,11 @@
 
 #include <array>
 
-#include "zusatzmodul/berechneReaktion.h"
 #include "finish/FormNamenGeben.h"
 #include "finish/sheet.h"
 #include "wizard/records.h"
 #include "wizard/text.h"
+#include "zusatzmodul/berechneReaktion.h"
 
 namespace bogenwerker {
 namespace {
@@ -20,7 +20,8 @@ Integer poolOf(Integer sum, int divisor) {
 }  // namespace
 
 FormFeinschliff::FormFeinschliff(FormsRuntime& runtime, FormNamenGeben& namenGeben)
-    : FormWith(runtime, "formFeinschliff", {.caption = "Endgültige Werte erzeugen - Schritt 6", .stretch = {.rows = {0, 1, 0}, .columns = {0, 1}}}),
+    : FormWith(runtime, "formFeinschliff",
+               {.caption = "Endgültige Werte erzeugen - Schritt 6", .stretch = {.rows = {0, 1, 0}, .columns = {0, 1}}}),
       formNamenGeben(namenGeben) {
   formNamenGeben.whenDone([this] { setVisible(true); });
 }
@@ -115,8 +116,7 @@ void FormFeinschliff::WendeWareAn() {
                                [this](const WareRow& ware) { WendeWerteAn(ware.effects); });
     }
   }
-  ModReaktion =
-      berechneReaktion(ModSchnelligkeit - ReakAbzugSchnell, ModIntelligenz - ReakAbzugIntell) + ReakBonus;
+  ModReaktion = berechneReaktion(ModSchnelligkeit - ReakAbzugSchnell, ModIntelligenz - ReakAbzugIntell) + ReakBonus;
 }
 
 void FormFeinschliff::WendeWerteAn(const WareEffects& ware) {
@@ -185,8 +185,8 @@ void FormFeinschliff::BerechneZauberPool() {
 
 void FormFeinschliff::BerechneAstralKampfPool() {
   if (Magie == 0) return;
-  Astralkampf = poolOf(
-      ModIntelligenz - PoolAbzugIntell + ModCharisma - PoolAbzugCharisma + ModWillenskraft - PoolAbzugWill, 2);
+  Astralkampf =
+      poolOf(ModIntelligenz - PoolAbzugIntell + ModCharisma - PoolAbzugCharisma + ModWillenskraft - PoolAbzugWill, 2);
   txtAstralkampf.setText(textOf(Astralkampf));
 }
 
@@ -234,8 +234,7 @@ void FormFeinschliff::ZeigeFertigkeiten() {
 void FormFeinschliff::cmdErzeugeHTML_Click() {
   writeSheet(environment().files, *this, formNamenGeben);
   environment().showMessage(
-      Message::closing,
-      "Fertig! Bitte überprüfen Sie den Charakter. Marvino's Bogenwerker ersetzt keine Regelwerke!");
+      Message::closing, "Fertig! Bitte überprüfen Sie den Charakter. Marvino's Bogenwerker ersetzt keine Regelwerke!");
   unload();
 }
 

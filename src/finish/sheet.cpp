@@ -130,7 +130,8 @@ std::string sheetFileName(std::string_view Namen) {
   constexpr std::size_t mostBytes = 200;
   std::string name(utf8Prefix(Namen, mostBytes));
   for (char& c : name) {
-    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F || std::string_view("<>:\"/\\|?*").find(c) != std::string_view::npos) {
+    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F ||
+        std::string_view("<>:\"/\\|?*").find(c) != std::string_view::npos) {
       c = '_';
     }
   }

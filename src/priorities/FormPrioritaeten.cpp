@@ -67,8 +67,8 @@ void FormPrioritäten::checkPrioA() {
 }
 
 void FormPrioritäten::checkPrioB() {
-  PrioB = Magie == "Aspekt" || Magie == "Adept" || AttributPunkte == 27 || FertigkeitenPunkte == 40 ||
-          Ressourcen == 400000;
+  PrioB =
+      Magie == "Aspekt" || Magie == "Adept" || AttributPunkte == 27 || FertigkeitenPunkte == 40 || Ressourcen == 400000;
 }
 
 void FormPrioritäten::checkPrioC() {

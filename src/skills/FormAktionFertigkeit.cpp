@@ -7,7 +7,8 @@
 namespace bogenwerker {
 
 FormAktionFertigkeit::FormAktionFertigkeit(FormsRuntime& runtime, FormWissensfertigkeit& wissensfertigkeit)
-    : FormWith(runtime, "formAktionFertigkeit", {.caption = "Aktionsfertigkeiten - Schritt 3", .stretch = {.rows = {0, 1, 0}}}),
+    : FormWith(runtime, "formAktionFertigkeit",
+               {.caption = "Aktionsfertigkeiten - Schritt 3", .stretch = {.rows = {0, 1, 0}}}),
       formWissensfertigkeit(wissensfertigkeit) {}
 
 void FormAktionFertigkeit::Form_Load() { zaehler = 1; }

@@ -13,11 +13,11 @@ class FormWissensfertigkeit;
 
 struct AktionFertigkeitVariables {
  protected:
-  Integer zaehler;            // the number that the next skill gets
-  bool CheckButton = false;   // whether one of the eight attributes is chosen
-  Integer merkzahl;           // the skill that was clicked last, 0 for none
+  Integer zaehler;           // the number that the next skill gets
+  bool CheckButton = false;  // whether one of the eight attributes is chosen
+  Integer merkzahl;          // the skill that was clicked last, 0 for none
   Integer UsedPoints;
-  Integer MaxPoints;          // 0 until the first press of cmdAddFertigkeit
+  Integer MaxPoints;  // 0 until the first press of cmdAddFertigkeit
 
   NumberedArray<std::string, 30> FertigkeitName;
   NumberedArray<Integer, 30> FertigkeitStufe;

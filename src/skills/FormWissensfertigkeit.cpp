@@ -14,7 +14,8 @@ std::string entryLine(Integer number, const std::string& name, Integer level) {
 }  // namespace
 
 FormWissensfertigkeit::FormWissensfertigkeit(FormsRuntime& runtime, FormAusrüstung& ausrüstung)
-    : FormWith(runtime, "formWissensfertigkeit", {.caption = "Wissensfertigkeiten - Schritt 4", .stretch = {.rows = {0, 1, 0}, .columns = {1, 1}}}),
+    : FormWith(runtime, "formWissensfertigkeit",
+               {.caption = "Wissensfertigkeiten - Schritt 4", .stretch = {.rows = {0, 1, 0}, .columns = {1, 1}}}),
       formAusrüstung(ausrüstung) {}
 
 void FormWissensfertigkeit::Form_Load() {

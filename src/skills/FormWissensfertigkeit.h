@@ -14,14 +14,14 @@ class FormAusrüstung;
 struct WissensfertigkeitVariables {
  protected:
   Integer Intelligenz;
-  Integer SprachPunkte;      // free, never below 0
+  Integer SprachPunkte;  // free, never below 0
   Integer MaxSprachPoints;
   Integer MaxWissensPoints;
-  Integer WissensPunkte;     // free, can go below 0
-  Integer zaehler;           // the number that the next knowledge skill gets
-  Integer zaehler2;          // the number that the next language gets
-  Integer merkzahl;          // the entry that was clicked last in either list, 0 for none
-  std::string Zeiger;        // the list of that entry: "Wissensfertigkeit" or "Sprache"
+  Integer WissensPunkte;  // free, can go below 0
+  Integer zaehler;        // the number that the next knowledge skill gets
+  Integer zaehler2;       // the number that the next language gets
+  Integer merkzahl;       // the entry that was clicked last in either list, 0 for none
+  std::string Zeiger;     // the list of that entry: "Wissensfertigkeit" or "Sprache"
 
   NumberedArray<std::string, 30> WissensName;
   NumberedArray<Integer, 30> WissensStufe;

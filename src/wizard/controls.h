@@ -171,8 +171,8 @@ class PictureBox final : public Control, public Container {
   Stretch stretch_;
 };
 
-// A stroke runs along the middle of its cells, from the edge or the middle of the first to the edge or the middle of the
-// last, so that strokes that share a cell can meet in it.
+// A stroke runs along the middle of its cells, from the edge or the middle of the first to the edge or the middle of
+// the last, so that strokes that share a cell can meet in it.
 struct LineDesign {
   Place at{};
   enum class Stroke { horizontal, vertical } stroke = Stroke::horizontal;
@@ -198,7 +198,7 @@ struct LabelDesign {
   bool bold = false;
   double size = 8.25;  // points
   bool centred = false;
-  int characters = 0;    // room kept for at least so many
+  int characters = 0;  // room kept for at least so many
   std::optional<int> tab{};
   Place at{};
   std::string_view spoken{};

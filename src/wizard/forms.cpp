@@ -80,9 +80,10 @@ void FormsRuntime::perform(Form& acting, const std::function<void()>& handler) {
   for (Form* form : forms_) form->isFresh_ = false;
   publish();
   if (!fault.empty()) {
-    environment_.showMessage(Message::fault, fault +
-                             "\n\nEs ist nichts verloren: Alles steht wie vor dem letzten Druck. Ist die Ursache "
-                             "behoben, drücken Sie einfach noch einmal.");
+    environment_.showMessage(Message::fault,
+                             fault +
+                                 "\n\nEs ist nichts verloren: Alles steht wie vor dem letzten Druck. Ist die Ursache "
+                                 "behoben, drücken Sie einfach noch einmal.");
   }
   performing_ = false;
 }

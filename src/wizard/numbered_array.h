@@ -30,7 +30,8 @@ class NumberedArray {
  private:
   static std::size_t checked(Integer index) {
     if (index < 0 || index > last) {
-      throw Fault("Eine Liste hat mehr als " + std::to_string(last) + " Einträge. So viele fasst der Bogenwerker nicht.");
+      throw Fault("Eine Liste hat mehr als " + std::to_string(last) +
+                  " Einträge. So viele fasst der Bogenwerker nicht.");
     }
     return static_cast<std::size_t>(index.value());
   }

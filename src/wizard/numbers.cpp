@@ -70,7 +70,8 @@ std::optional<Currency> countTenThousandths(bool negative, const std::string& wh
   if (std::from_chars(digits.data(), digits.data() + digits.size(), count).ec != std::errc{}) return {};
 
   const std::string_view rest = fraction.size() > Currency::decimals ? fraction.substr(Currency::decimals) : "";
-  const bool aboveHalf = !rest.empty() && (rest[0] > '5' || (rest[0] == '5' && rest.find_first_not_of('0', 1) != rest.npos));
+  const bool aboveHalf =
+      !rest.empty() && (rest[0] > '5' || (rest[0] == '5' && rest.find_first_not_of('0', 1) != rest.npos));
   const bool half = !rest.empty() && rest[0] == '5' && !aboveHalf;
   if (aboveHalf || (half && count % 2 == 1)) ++count;
 
@@ -156,8 +157,9 @@ std::string textOf(Currency value, const NumberLocale& locale) {
 std::string textOf(Single value, const NumberLocale& locale) {
   if (!std::isfinite(value)) throw Fault(std::string(tooLarge));
   std::array<char, 32> buffer{};  // d.dddddde-dd
-  const auto* end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
-                                  std::chars_format::scientific, 6).ptr;
+  const auto* end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value), std::chars_format::scientific, 6)
+          .ptr;
   const std::string_view written(buffer.data(), end);
   const std::size_t e = written.find('e');
   const std::size_t sign = e + 1;

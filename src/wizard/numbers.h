@@ -65,9 +65,9 @@ class Currency {
 class Variant {
  public:
   Variant() = default;
-  Variant(Integer number) : value_(number) {}                 // NOLINT: meant to be implicit
-  Variant(int number) : Variant(Integer(number)) {}           // NOLINT: meant to be implicit
-  Variant(std::string text) : value_(std::move(text)) {}      // NOLINT: meant to be implicit
+  Variant(Integer number) : value_(number) {}             // NOLINT: meant to be implicit
+  Variant(int number) : Variant(Integer(number)) {}       // NOLINT: meant to be implicit
+  Variant(std::string text) : value_(std::move(text)) {}  // NOLINT: meant to be implicit
   // Throws Fault for a text that is no whole number.
   [[nodiscard]] Integer number() const;
   [[nodiscard]] std::string text() const;

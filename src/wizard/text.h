@@ -6,7 +6,8 @@
 
 namespace bogenwerker {
 
-// Every byte has a character: the five that code page 1252 leaves open stand for the control characters of their number.
+// Every byte has a character: the five that code page 1252 leaves open stand for the control characters of their
+// number.
 std::string utf8FromCp1252(std::string_view bytes);
 
 // Leaves out what code page 1252 does not hold, and every byte that is no sound UTF-8.
