@@ -15,6 +15,6 @@ ensure_packages() {
 }
 
 build_packages=(g++ cmake ninja-build nlohmann-json3-dev)
-desktop_packages=(qt6-base-dev fonts-dejavu-core)
+desktop_packages=(qt6-base-dev qt6-wayland fonts-dejavu-core)
 test_packages=(libgtest-dev libbenchmark-dev clang-14 libclang-rt-14-dev python3 strace)
 browser_packages=(chromium chromium-driver python3-selenium poppler-utils)

@@ -6,14 +6,6 @@
 namespace bogenwerker {
 namespace {
 
-// The bytes of the line that begins at a position, its line end included.
-std::string_view lineAt(std::string_view bytes, std::size_t position) {
-  std::size_t end = bytes.find_first_of("\r\n", position);
-  if (end == std::string_view::npos) return bytes.substr(position);
-  if (bytes.substr(end).starts_with("\r\n")) ++end;
-  return bytes.substr(position, end + 1 - position);
-}
-
 int countFields(std::string_view line) {
   RecordReader reader("", line);
   int count = 0;
@@ -21,22 +13,13 @@ int countFields(std::string_view line) {
   return count;
 }
 
-// Rows know no lines, so a row may fail behind the line that is to blame. Looks from the last row that began a line up
-// to where reading failed; empty if every line there holds as many fields as it should.
-std::string blameLine(std::string_view file, std::string_view bytes, std::size_t from, std::size_t failed, int wanted) {
-  while (from < failed) {
-    const std::string_view line = lineAt(bytes, from);
-    const int count = countFields(line);
-    if (count != wanted) {
-      const std::string place = std::string(file) + ", Zeile " + std::to_string(lineOf(bytes, from));
-      if (line.find_first_not_of(" \r\n") == line.npos) return place + ": Die Zeile ist leer. Bitte löschen.";
-      return place + ": " + std::to_string(count) + (count == 1 ? " Feld" : " Felder") + " statt " +
-             std::to_string(wanted) + "." +
-             (count > wanted ? " Dezimalkomma? Hier gilt der Punkt." : " Fehlt ein Komma oder ein Anführungszeichen?");
-    }
-    from += line.size();
-  }
-  return {};
+std::string wrongCount(std::string_view line, int count, int wanted) {
+  if (line.find_first_not_of(" \r\n") == line.npos) return "Die Zeile ist leer. Bitte löschen.";
+  std::string text =
+      std::to_string(count) + (count == 1 ? " Feld" : " Felder") + " statt " + std::to_string(wanted) + ".";
+  if (count > wanted) return text + " Dezimalkomma? Hier gilt der Punkt.";
+  if (line.find_first_of(";\t") != line.npos) return text + " Die Felder trennt ein Komma.";
+  return text + " Fehlt ein Komma oder ein Anführungszeichen?";
 }
 
 template <class Row>
@@ -48,43 +31,63 @@ void checkCatalogue(Files& files, std::string_view file, int mostRows, std::vect
     faults.emplace_back(fault.what());
     return;
   }
-  if (looksLikeUtf8(bytes)) {
-    faults.push_back(savedAsUtf8(file));
+  if (looksLikeUnicode(bytes)) {
+    faults.push_back(savedAsUnicode(file));
     return;
   }
 
-  RecordReader reader(file, bytes);
   constexpr int mostFaults = 100;  // some other file of that name would keep the player waiting
-  std::size_t lastInStep = 0;
+  CatalogueReader reader(file, bytes);
   int rows = 0;
-  int found = 0;
-  while (!reader.atEnd()) {
-    if (reader.atLineStart()) lastInStep = reader.position();
-    const std::size_t start = reader.position();
-    ++rows;
+  for (int found = 0; !reader.atEnd() && found < mostFaults; ++rows) {
     try {
       Row row;
-      readRow(reader, row);
-      if (!row.name.empty() && row.name.find('"') == row.name.npos) continue;
-      throw Fault(std::string(file) + ", Zeile " + std::to_string(lineOf(bytes, start)) +
-                  ", Feld 1: " + (row.name.empty() ? "Der Name fehlt." : "Im Namen steht ein Anführungszeichen."));
+      reader.read(row);
     } catch (const Fault& fault) {
-      std::string blame = blameLine(file, bytes, lastInStep, reader.position(), Row::fields);
-      faults.push_back(blame.empty() ? fault.what() : std::move(blame));
-      if (++found == mostFaults) {
-        faults.push_back(std::string(file) + ": Nach " + std::to_string(found) + " Fehlern endet hier die Prüfung.");
-        return;
-      }
-      reader.skipLine();
+      ++found;
+      faults.emplace_back(fault.what());
+      reader.goOn();
     }
   }
-  if (rows > mostRows) {
-    faults.push_back(std::string(file) + ": " + std::to_string(rows) + " Einträge. Platz ist für höchstens " +
-                     std::to_string(mostRows) + ".");
-  }
+  if (!reader.atEnd()) faults.push_back(std::string(file) + ": Nach so vielen Fehlern endet hier die Prüfung.");
+  else if (rows > mostRows) faults.push_back(tooManyRows(file, rows, mostRows));
 }
 
 }  // namespace
+
+std::string tooManyRows(std::string_view file, int rows, int mostRows) {
+  return std::string(file) + ": " + std::to_string(rows) + " Einträge. Platz ist für höchstens " +
+         std::to_string(mostRows) + ".";
+}
+
+void CatalogueReader::checkName(std::string_view name) const {
+  const auto refuse = [this](std::string_view why) {
+    throw Fault(std::string(file_) + ", Zeile " + std::to_string(lineOf(bytes_, start_)) +
+                ", Feld 1: " + std::string(why));
+  };
+  if (name.empty()) refuse("Der Name fehlt.");
+  if (name.find('"') != name.npos) refuse("Im Namen steht ein Anführungszeichen.");
+  if (name.find_first_of("\r\n") != name.npos) refuse("Im Namen endet die Zeile. Fehlt ein Anführungszeichen?");
+}
+
+// The first line with another number of fields than it should have, from the last row that began a line up to where
+// reading failed; the row itself if there is none.
+std::string CatalogueReader::blame(std::string_view fault, int fields) {
+  const std::size_t failed = reader_.position();
+  for (std::size_t at = lastInStep_; at < failed;) {
+    const std::string_view line = lineAt(bytes_, at);
+    const int count = countFields(line);
+    const std::size_t number = at;
+    at += line.size();
+    if (count == fields) continue;
+    behindBlame_ = at;
+    return std::string(file_) + ", Zeile " + std::to_string(lineOf(bytes_, number)) + ": " +
+           wrongCount(line, count, fields);
+  }
+  reader_.skipLine();
+  behindBlame_ = reader_.position();
+  return std::string(fault);
+}
 
 // Compares the first and the last byte of the text at many places at once, in a loop that the compiler turns into
 // vector instructions.

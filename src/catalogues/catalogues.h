@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "wizard/fault.h"
 #include "wizard/files.h"
 #include "wizard/records.h"
 
@@ -69,19 +70,55 @@ struct DeckRow {
   void readRest(RecordReader& reader) { reader.readOn(MPCP, kosten, Reaktionsverstärkung); }
 };
 
-template <class Row>
-void readRow(RecordReader& reader, Row& row) {
-  reader.read(row.name);
-  row.readRest(reader);
-}
+// The fault of a file with too many rows, as a line of German.
+std::string tooManyRows(std::string_view file, int rows, int mostRows);
 
-// Calls take for every row of a file in order. Throws Fault for a file or a row that cannot be read.
+// Reads the rows of one file, and tells the player which line to blame where that fails: rows know no lines, so it may
+// stand ahead of the row that could not be read.
+class CatalogueReader {
+ public:
+  // The bytes have to outlive the reader.
+  CatalogueReader(std::string_view file, std::string_view bytes) : file_(file), bytes_(bytes), reader_(file, bytes) {}
+
+  [[nodiscard]] bool atEnd() const { return reader_.atEnd(); }
+  // Throws Fault for a row that is cut short, has a field of the wrong type, or a name that no purchase could find.
+  template <class Row>
+  void read(Row& row) {
+    if (reader_.atLineStart()) lastInStep_ = reader_.position();
+    start_ = reader_.position();
+    try {
+      reader_.read(row.name);
+      row.readRest(reader_);
+      checkName(row.name);
+    } catch (const Fault& fault) {
+      throw Fault(blame(fault.what(), Row::fields));
+    }
+  }
+  // After a fault: to the line behind the one to blame.
+  void goOn() { reader_.seek(behindBlame_); }
+
+ private:
+  void checkName(std::string_view name) const;
+  std::string blame(std::string_view fault, int fields);
+
+  std::string_view file_;
+  std::string_view bytes_;
+  RecordReader reader_;
+  std::size_t start_ = 0;       // of the row that is being read
+  std::size_t lastInStep_ = 0;  // of the last row that began a line
+  std::size_t behindBlame_ = 0;
+};
+
+// Calls take for every row of a file in order. Throws Fault for a file or a row that cannot be read, and for more rows
+// than there is room for.
 template <class Row, class Take>
-void forEachRow(Files& files, std::string_view file, Take take) {
+void forEachRow(Files& files, std::string_view file, int mostRows, Take take) {
   const std::string bytes = files.read(file);
-  RecordReader reader(file, bytes);
-  for (Row row; !reader.atEnd();) {
-    readRow(reader, row);
+  CatalogueReader reader(file, bytes);
+  Row row;
+  for (int rows = 1; !reader.atEnd(); ++rows) {
+    reader.read(row);
+    if (rows > mostRows) throw Fault(tooManyRows(file, rows, mostRows));
     take(row);
   }
 }

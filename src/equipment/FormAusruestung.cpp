@@ -59,7 +59,7 @@ void FormAusrüstung::Form_Load() {
 
 template <class Row, class Names, class Store>
 void FormAusrüstung::lade(std::string_view file, ComboBox& box, Integer& zaehler, Names& names, Store store) {
-  forEachRow<Row>(environment().files, file, [&](const Row& row) {
+  forEachRow<Row>(environment().files, file, Names::mostEntries, [&](const Row& row) {
     names[zaehler] = row.name;
     store(zaehler, row);
     box.addItem(row.name);

@@ -1,7 +1,5 @@
 #include "finish/FormFeinschliff.h"
 
-#include <array>
-
 #include "finish/FormNamenGeben.h"
 #include "finish/sheet.h"
 #include "wizard/records.h"

@@ -142,7 +142,7 @@ std::string sheetFileName(std::string_view Namen) {
 
 void checkTemplate(Files& files, std::vector<std::string>& faults) {
   try {
-    if (looksLikeUtf8(files.read(templateFile))) faults.push_back(savedAsUtf8(templateFile));
+    if (looksLikeUnicode(files.read(templateFile))) faults.push_back(savedAsUnicode(templateFile));
   } catch (const Fault& fault) {
     faults.emplace_back(fault.what());
   }

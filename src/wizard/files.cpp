@@ -24,16 +24,26 @@ struct Reason {
   std::string_view advice;
 };
 
-constexpr std::array<Reason, 9> reasons = {{
+constexpr std::string_view checkRights = "Prüfen Sie die Rechte der Datei und des Ordners.";
+constexpr std::string_view makeRoom = "Schaffen Sie Platz auf dem Datenträger.";
+constexpr std::string_view tryAgain = "Versuchen Sie es in einem Augenblick noch einmal.";
+
+constexpr std::array<Reason, 15> reasons = {{
     {ENOENT, "Die Datei fehlt.", "Legen Sie die Datei in den Ordner, aus dem der Bogenwerker läuft."},
-    {EACCES, "Der Zugriff ist nicht erlaubt.", "Prüfen Sie die Rechte der Datei und des Ordners."},
-    {EPERM, "Der Zugriff ist nicht erlaubt.", "Prüfen Sie die Rechte der Datei und des Ordners."},
+    {EACCES, "Der Zugriff ist nicht erlaubt.", checkRights},
+    {EPERM, "Der Zugriff ist nicht erlaubt.", checkRights},
     {EROFS, "Der Datenträger ist schreibgeschützt.", "Starten Sie den Bogenwerker in einem beschreibbaren Ordner."},
-    {ENOSPC, "Der Datenträger ist voll.", "Schaffen Sie Platz auf dem Datenträger."},
-    {EDQUOT, "Ihr Speicherplatz ist aufgebraucht.", "Schaffen Sie Platz auf dem Datenträger."},
+    {ENOSPC, "Der Datenträger ist voll.", makeRoom},
+    {EDQUOT, "Ihr Speicherplatz ist aufgebraucht.", makeRoom},
     {EISDIR, "Unter diesem Namen gibt es schon einen Ordner.", "Benennen Sie den Ordner um oder verschieben Sie ihn."},
     {notRegular, "Unter diesem Namen liegt keine gewöhnliche Datei.", "Ersetzen Sie sie durch eine Datei."},
     {EFBIG, "Die Datei ist zu groß.", "Mehr als 16 Megabyte liest und schreibt der Bogenwerker nicht."},
+    {EIO, "Der Datenträger meldet einen Fehler.", "Prüfen Sie ihn oder arbeiten Sie in einem anderen Ordner."},
+    {EMFILE, "Es sind zu viele Dateien offen.", tryAgain},
+    {ENFILE, "Es sind zu viele Dateien offen.", tryAgain},
+    {ELOOP, "Unter diesem Namen liegt ein Verweis, der ins Leere führt.", "Ersetzen Sie ihn durch eine Datei."},
+    {ENAMETOOLONG, "Der Name ist zu lang.", "Wählen Sie einen kürzeren."},
+    {EEXIST, "„Bogenwerker.neu“ ist im Weg.", "Benennen Sie den Ordner dieses Namens um."},
 }};
 
 [[noreturn]] void throwFault(std::string_view name, std::string_view doing, int error) {
@@ -42,7 +52,7 @@ constexpr std::array<Reason, 9> reasons = {{
     if (reason.error != error) continue;
     throw Fault(text.append(reason.what).append(" ").append(reason.advice));
   }
-  throw Fault(text + std::system_category().message(error) + ". Bitte beheben Sie die Ursache.");
+  throw Fault(text + "Das System meldet Fehler " + std::to_string(error) + ".");
 }
 
 // Runs its action on the way out, whichever way that is.
@@ -95,10 +105,11 @@ void Files::read(std::string_view name, std::string& bytes) {
 
 void Files::replace(std::string_view name, std::string_view bytes, Durability durability) {
   const std::string target(name);
-  const std::string temporary = target + ".neu";
+  // One name for all files, so that the next write takes away what a run that was killed has left behind.
+  const std::string temporary = "Bogenwerker.neu";
   constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
   int file = openFile(temporary.c_str(), flags);
-  if (file < 0 && errno == EEXIST) {  // what an earlier run that was killed left behind
+  if (file < 0 && errno == EEXIST) {
     unlink(temporary.c_str());
     file = openFile(temporary.c_str(), flags);
   }

@@ -29,8 +29,8 @@ class Files {
   // The same into a buffer that keeps its memory from call to call.
   void read(std::string_view name, std::string& bytes);
 
-  // Writes the bytes under a temporary name beside the file and renames that: at every moment the name stands for the
-  // old file or for the new one. A symbolic link of that name is replaced, never followed.
+  // Writes the bytes to Bogenwerker.neu beside the file and renames that: at every moment the name stands for the old
+  // file or for the new one. A symbolic link of that name is replaced, never followed.
   void replace(std::string_view name, std::string_view bytes, Durability durability);
 
  protected:

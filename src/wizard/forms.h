@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -47,8 +46,8 @@ struct FormDesign {
 };
 
 // A form bears its control table: one member a control. It is no window, and holds nothing that only a screen needs.
-// Controls live as long as the form object; loading and unloading sets them back to their design. A form's variables
-// are members of its own and stay readable after the unload.
+// Controls live as long as the form object, so that nothing dangles; nobody touches those of a form that is unloaded. A
+// form's variables are members of its own and stay readable after the unload.
 class Form : public Container {
  public:
   enum class State { notLoaded, hidden, visible, unloaded };

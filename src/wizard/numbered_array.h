@@ -1,7 +1,6 @@
 // Lists that count from 1, with an index 0 that stays empty.
 #pragma once
 
-#include <utility>
 #include <vector>
 
 #include "wizard/fault.h"
@@ -23,7 +22,6 @@ class NumberedArray {
     const std::size_t place = checked(index);
     return place < elements_.size() ? elements_[place] : empty;
   }
-  void clear() { elements_.clear(); }
 
   static constexpr int mostEntries = last;
 

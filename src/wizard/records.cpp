@@ -1,5 +1,8 @@
 #include "wizard/records.h"
 
+#include <cstring>
+#include <utility>
+
 #include "wizard/fault.h"
 #include "wizard/text.h"
 
@@ -75,17 +78,17 @@ void RecordReader::take(Untyped& target) { take(target.text); }
 
 void RecordReader::take(Integer& target) {
   const std::string_view field = takeField();
-  target = number(parseInteger(field), field, "ganze Zahl von -32768 bis 32767");
+  target = number(parseInteger(field), field, "keine ganze Zahl von -32768 bis 32767");
 }
 
 void RecordReader::take(Single& target) {
   const std::string_view field = takeField();
-  target = number(parseSingle(field), field, "Zahl");
+  target = number(parseSingle(field), field, "keine Zahl");
 }
 
 void RecordReader::take(Currency& target) {
   const std::string_view field = takeField();
-  target = number(parseCurrency(field), field, "Zahl");
+  target = number(parseCurrency(field), field, "keine Zahl");
 }
 
 void RecordReader::take(bool& target) {
@@ -93,7 +96,7 @@ void RecordReader::take(bool& target) {
   const std::string_view word = field.substr(0, field.find_last_not_of(' ') + 1);
   if (word == "#TRUE#") target = true;
   else if (word == "#FALSE#") target = false;
-  else target = number(parseSingle(field), field, "Angabe #TRUE# oder #FALSE#") != 0;
+  else target = number(parseSingle(field), field, "weder #TRUE# noch #FALSE#") != 0;
 }
 
 bool RecordReader::atLineStart() const {
@@ -101,9 +104,7 @@ bool RecordReader::atLineStart() const {
 }
 
 void RecordReader::skipLine() {
-  if (atLineStart()) return;
-  while (!atEnd() && !atLineStart()) ++position_;
-  if (!atEnd() && bytes_[position_ - 1] == '\r' && bytes_[position_] == '\n') ++position_;
+  if (!atLineStart()) position_ += lineAt(bytes_, position_).size();
 }
 
 std::string RecordReader::place() const {
@@ -114,13 +115,25 @@ std::string RecordReader::place() const {
 void RecordReader::throwWrongType(std::string_view field, std::string_view kind) const {
   if (field.find_first_of(lineEnds) != field.npos) throw Fault(place() + "Das Anführungszeichen am Ende fehlt.");
   constexpr std::size_t mostShown = 60;
-  const std::string shown = utf8FromCp1252(field);
+  std::string shown = utf8FromCp1252(field);
+  // Nobody sees a tab or a hard blank.
+  for (const auto& [hidden, visible] : {std::pair("\t", "⇥"), std::pair("\u00A0", "␣")}) {
+    for (std::size_t at = 0; (at = shown.find(hidden, at)) != shown.npos;)
+      shown.replace(at, std::strlen(hidden), visible);
+  }
   const std::string_view prefix = utf8Prefix(shown, mostShown);
-  throw Fault(place() + "„" + std::string(prefix) + (prefix.size() < shown.size() ? "…" : "") + "“ ist keine " +
+  throw Fault(place() + "„" + std::string(prefix) + (prefix.size() < shown.size() ? "…" : "") + "“ ist " +
               std::string(kind) + ".");
 }
 
 void RecordReader::throwPastEnd() const { throw Fault(place() + "Hier endet die Datei mitten in einem Eintrag."); }
+
+std::string_view lineAt(std::string_view bytes, std::size_t position) {
+  std::size_t end = bytes.find_first_of(lineEnds, position);
+  if (end == bytes.npos) return bytes.substr(position);
+  if (bytes.substr(end).starts_with("\r\n")) ++end;
+  return bytes.substr(position, end + 1 - position);
+}
 
 int lineOf(std::string_view bytes, std::size_t position) {
   int line = 1;
@@ -130,9 +143,10 @@ int lineOf(std::string_view bytes, std::size_t position) {
   return line;
 }
 
-std::string savedAsUtf8(std::string_view file) {
+std::string savedAsUnicode(std::string_view file) {
   return std::string(file) +
-         ": Die Datei ist als UTF-8 gespeichert. Bitte speichern Sie sie in der Kodierung „ANSI“ (Windows-1252, "
+         ": Die Datei ist als Unicode (UTF-8 oder UTF-16) gespeichert. Bitte speichern Sie sie in der Kodierung „ANSI“ "
+         "(Windows-1252, "
          "Westeuropäisch).";
 }
 

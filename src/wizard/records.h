@@ -9,7 +9,7 @@
 
 namespace bogenwerker {
 
-// A field that is passed over whatever its type; what stood in it stays readable as text.
+// A field that is passed over whatever its type, since nobody asks for it; what stood in it stays readable as text.
 struct Untyped {
   std::string text;
 };
@@ -47,6 +47,7 @@ class RecordReader {
   [[nodiscard]] bool atLineStart() const;
   // To where the next line begins; stays where one does.
   void skipLine();
+  void seek(std::size_t position) { position_ = position; }
 
  private:
   std::string_view takeField();
@@ -73,11 +74,14 @@ class RecordReader {
   int field_ = 0;  // counted from 1 within the record
 };
 
+// The rest of the line in which a byte of the file stands, its line end included.
+std::string_view lineAt(std::string_view bytes, std::size_t position);
+
 // The number of the line, from 1, in which a byte of the file stands.
 int lineOf(std::string_view bytes, std::size_t position);
 
-// The fault of a file that somebody saved as UTF-8, as a line of German.
-std::string savedAsUtf8(std::string_view file);
+// The fault of a file that somebody saved as Unicode, as a line of German.
+std::string savedAsUnicode(std::string_view file);
 
 // Gathers the records of one file and puts them in place when it is closed. What is not closed was never written.
 class RecordWriter {

@@ -139,8 +139,10 @@ std::string gateTyped(std::string_view text) {
   return passed;
 }
 
-bool looksLikeUtf8(std::string_view bytes) {
-  if (bytes.starts_with("\xEF\xBB\xBF")) return true;
+bool looksLikeUnicode(std::string_view bytes) {
+  for (const std::string_view mark : {"\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF"}) {
+    if (bytes.starts_with(mark)) return true;
+  }
   bool aboveAscii = false;
   while (true) {
     takeAscii(bytes);

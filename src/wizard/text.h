@@ -17,9 +17,9 @@ std::string cp1252FromUtf8(std::string_view text);
 // control characters and characters outside code page 1252 are left out.
 std::string gateTyped(std::string_view text);
 
-// True if the bytes hold characters above ASCII and all of them are sound UTF-8, or if they begin with its byte order
-// mark: a file that somebody saved in the wrong encoding.
-bool looksLikeUtf8(std::string_view bytes);
+// True if the bytes hold characters above ASCII and all of them are sound UTF-8, or if they begin with a byte order
+// mark of UTF-8 or UTF-16: a file that somebody saved in the wrong encoding.
+bool looksLikeUnicode(std::string_view bytes);
 
 // At most that many bytes of the text, cut between two characters.
 std::string_view utf8Prefix(std::string_view text, std::size_t bytes);
