@@ -109,9 +109,9 @@ BENCHMARK(ScanForLineEnds);
 void ReadCyberware(benchmark::State& state) {
   const std::string bytes = wareRows("Knochen", mostCyberware);
   for (auto _ : state) {
-    RecordReader reader("Cyberware.txt", bytes);
+    CatalogueReader reader("Cyberware.txt", bytes);
     for (WareRow row; !reader.atEnd();) {
-      readRow(reader, row);
+      reader.read(row);
       benchmark::DoNotOptimize(row);
     }
   }

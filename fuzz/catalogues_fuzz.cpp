@@ -18,11 +18,11 @@ constexpr std::array<const char*, 6> catalogueNames = {"Lebensstil.txt", "Connec
 template <class Row>
 void compareSearches(Files& files, std::string_view file) {
   std::vector<std::string> names;
-  forEachRow<Row>(files, file, [&names](const Row& row) { names.push_back(row.name); });
+  forEachRow<Row>(files, file, mostCyberware, [&names](const Row& row) { names.push_back(row.name); });
   if (names.empty()) return;
   for (const std::string& name : {names.front(), names.back(), names[names.size() / 2], std::string("1")}) {
     std::vector<Currency> slow;
-    forEachRow<Row>(files, file, [&](const Row& row) {
+    forEachRow<Row>(files, file, mostCyberware, [&](const Row& row) {
       if (row.name == name) slow.push_back(row.kosten);
     });
     std::vector<Currency> quick;

@@ -15,24 +15,15 @@ void readOne(RecordReader& reader, char type) {
   bool truth = false;
   Untyped untyped;
   switch (type) {
-    case 's':
-      return reader.read(text);
-    case 'i':
-      return reader.read(whole);
-    case 'f':
-      return reader.read(single);
-    case 'c':
-      return reader.read(money);
-    case 'b':
-      return reader.read(truth);
-    case 'u':
-      return reader.read(untyped);
-    case 'a':
-      return reader.read(text, whole, single, money, truth, untyped);
-    case 'l':
-      return reader.skipLine();
-    default:
-      reader.readRaw();
+    case 's': return reader.read(text);
+    case 'i': return reader.read(whole);
+    case 'f': return reader.read(single);
+    case 'c': return reader.read(money);
+    case 'b': return reader.read(truth);
+    case 'u': return reader.read(untyped);
+    case 'a': return reader.read(text, whole, single, money, truth, untyped);
+    case 'l': return reader.skipLine();
+    default: reader.readRaw();
   }
 }
 

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <limits>
 #include <random>
+#include <tuple>
 
 #include "wizard/fault.h"
 #include "wizard/numbered_array.h"
@@ -41,66 +42,37 @@ TEST(Currency, ExactAndCheckedToTheLastDigit) {
   EXPECT_THROW(least - Currency(1), Fault);
 }
 
-struct DivisionRow {
-  const char* name;
-  std::int64_t count, tenth;
-};
-class Division : public testing::TestWithParam<DivisionRow> {};
-TEST_P(Division, RoundsTiesToTheEvenDigit) {
-  const Currency result = Currency::ofTenThousandths(GetParam().count) / 10;
-  EXPECT_EQ(result.tenThousandths(), GetParam().tenth);
+TEST(Currency, DividesWithTiesToTheEvenDigit) {
+  const std::vector<std::pair<std::int64_t, std::int64_t>> rows = {
+      {123450000, 12345000}, {12345, 1234}, {12355, 1236}, {12346, 1235}, {-12345, -1234}};
+  for (const auto& [count, tenth] : rows) EXPECT_EQ((Currency::ofTenThousandths(count) / 10).tenThousandths(), tenth);
 }
-INSTANTIATE_TEST_SUITE_P(Currency, Division,
-                         testing::Values(DivisionRow{"whole", 123450000, 12345000}, DivisionRow{"tie_down", 12345, 1234},
-                                         DivisionRow{"tie_up", 12355, 1236}, DivisionRow{"above", 12346, 1235},
-                                         DivisionRow{"negative_tie", -12345, -1234}),
-                         rowName);
 
-struct TypedRow {
-  const char* name;
-  const char* typed;
-  std::optional<std::int64_t> count;
-};
-class TypedAmount : public testing::TestWithParam<TypedRow> {};
-TEST_P(TypedAmount, IsReadByTheLocale) {
-  const auto amount = currencyOf(GetParam().typed, german);
-  EXPECT_EQ(amount ? std::optional(amount->tenThousandths()) : std::nullopt, GetParam().count);
+TEST(Currency, IsTypedByTheLocale) {
+  constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
+  // clang-format off
+  const std::vector<std::pair<const char*, std::optional<std::int64_t>>> rows = {
+      {"1500", 15000000}, {"12,5", 125000}, {"-50", -500000}, {"+5", 50000}, {"  5  ", 50000}, {",5", 5000},
+      {"1.234.567,89", 12345678900}, {"1.00", {}}, {"1.0000", {}}, {"1.0000.000", {}}, {".500", {}}, {"1,000.000", {}},
+      {"1 000", {}}, {",", {}}, {"-", {}}, {"", {}}, {"12x", {}}, {"1e3", {}},
+      {"0,00005", 0}, {"0,00015", 2}, {"-0,00015", -2}, {"0,000050001", 1},
+      {"922337203685477,5807", most}, {"-922337203685477,5808", -most - 1}, {"922337203685477,5808", {}},
+      {"922337203685477,58075", {}}, {"99999999999999999999999999", {}}};
+  // clang-format on
+  for (const auto& [typed, count] : rows) {
+    const auto amount = currencyOf(typed, german);
+    EXPECT_EQ(amount ? std::optional(amount->tenThousandths()) : std::nullopt, count) << typed;
+  }
 }
-INSTANTIATE_TEST_SUITE_P(
-    Numbers, TypedAmount,
-    testing::Values(TypedRow{"whole", "1500", 15000000}, TypedRow{"decimals", "12,5", 125000},
-                    TypedRow{"groups", "1.234.567,89", 12345678900}, TypedRow{"group_of_two", "1.00", {}},
-                    TypedRow{"group_of_four", "1.0000", {}}, TypedRow{"group_missing_later", "1.0000.000", {}},
-                    TypedRow{"group_at_front", ".500", {}}, TypedRow{"group_behind_decimal", "1,000.000", {}},
-                    TypedRow{"negative", "-50", -500000}, TypedRow{"plus", "+5", 50000},
-                    TypedRow{"blanks_around", "  5  ", 50000}, TypedRow{"blank_within", "1 000", {}},
-                    TypedRow{"no_whole_part", ",5", 5000}, TypedRow{"separator_only", ",", {}},
-                    TypedRow{"sign_only", "-", {}}, TypedRow{"empty", "", {}}, TypedRow{"letters", "12x", {}},
-                    TypedRow{"exponent", "1e3", {}}, TypedRow{"tie_to_even", "0,00005", 0},
-                    TypedRow{"tie_to_even_up", "0,00015", 2}, TypedRow{"above_tie", "0,000050001", 1},
-                    TypedRow{"negative_tie", "-0,00015", -2},
-                    TypedRow{"most", "922337203685477,5807", std::numeric_limits<std::int64_t>::max()},
-                    TypedRow{"least", "-922337203685477,5808", std::numeric_limits<std::int64_t>::min()},
-                    TypedRow{"too_much", "922337203685477,5808", {}},
-                    TypedRow{"far_too_much", "99999999999999999999999999", {}},
-                    TypedRow{"rounded_beyond", "922337203685477,58075", {}}),
-    rowName);
 
-struct SingleRow {
-  const char* name;
-  Single value;
-  const char* text;
-};
-class SingleText : public testing::TestWithParam<SingleRow> {};
-TEST_P(SingleText, IsPlainWithSevenDigits) { EXPECT_EQ(textOf(GetParam().value, german), GetParam().text); }
-INSTANTIATE_TEST_SUITE_P(
-    Numbers, SingleText,
-    testing::Values(SingleRow{"whole", 6, "6"}, SingleRow{"zero", 0, "0"}, SingleRow{"minus_zero", -0.0F, "0"},
-                    SingleRow{"residue_hidden", 6.0F - 0.2F, "5,8"}, SingleRow{"below_one", 0.25F, "0,25"},
-                    SingleRow{"residue_shown", 6.0F - 5.9F, "0,0999999"}, SingleRow{"negative", -1.5F, "-1,5"},
-                    SingleRow{"tiny", 1e-9F, "0,000000001"}, SingleRow{"large", 123456789.0F, "123456800"},
-                    SingleRow{"rounds_up_a_place", 9.9999999F, "10"}),
-    rowName);
+TEST(Single, ReadsPlainWithSevenDigits) {
+  // clang-format off
+  const std::vector<std::pair<Single, const char*>> rows = {
+      {6.0F, "6"}, {0.0F, "0"}, {-0.0F, "0"}, {0.25F, "0,25"}, {-1.5F, "-1,5"}, {1e-9F, "0,000000001"},
+      {123456789.0F, "123456800"}, {9.9999999F, "10"}, {6.0F - 0.2F, "5,8"}, {6.0F - 5.9F, "0,0999999"}};
+  // clang-format on
+  for (const auto& [value, text] : rows) EXPECT_EQ(textOf(value, german), text);
+}
 
 TEST(Rounding, HundredthsTieToEven) {
   EXPECT_EQ(textOf(roundToHundredths(5.125F), german), "5,12");
@@ -124,69 +96,53 @@ TEST(Text, Cp1252GoesBothWaysForEveryByte) {
   EXPECT_EQ(cp1252FromUtf8("aд\xF0\x9F\x8F\xB9z"), "az");
 }
 
-struct GateRow {
-  const char* name;
-  std::string typed, passed;
-};
-class Gate : public testing::TestWithParam<GateRow> {};
-TEST_P(Gate, PassesWhatARecordCanHold) { EXPECT_EQ(gateTyped(GetParam().typed), GetParam().passed); }
-INSTANTIATE_TEST_SUITE_P(
-    Text, Gate,
-    testing::Values(GateRow{"quote", "die \"Nadel\"", "die 'Nadel'"}, GateRow{"controls", "a\tb\nc\x7F", "abc"},
-                    GateRow{"upper_controls", "a\xC2\x81z", "az"}, GateRow{"foreign", "Дракон €5 – ß", " €5 – ß"},
-                    GateRow{"combining", "a\xCC\x88", "a"}, GateRow{"torn_utf8", "a\xC3", "a"},
-                    GateRow{"overlong", "\xC0\xAF/", "/"}, GateRow{"commas_and_blanks", " a, b ", " a, b "}),
-    rowName);
+TEST(Text, GatePassesWhatARecordCanHold) {
+  // clang-format off
+  const std::vector<std::pair<std::string, std::string>> rows = {
+      {"die \"Nadel\"", "die 'Nadel'"}, {"a\tb\nc\x7F", "abc"}, {"a\xC2\x81z", "az"}, {"Дракон €5 – ß", " €5 – ß"},
+      {"a\xCC\x88", "a"}, {"a\xC3", "a"}, {"\xC0\xAF/", "/"}, {" a, b ", " a, b "}};
+  // clang-format on
+  for (const auto& [typed, passed] : rows) EXPECT_EQ(gateTyped(typed), passed) << typed;
+}
 
 TEST(Text, SortsAsAGermanReaderExpects) {
-  std::vector<std::string> names = {"Zahn", "Ärger", "arg", "Arg", "Argus", "Öl", "Ofen", "Straße", "Strasse", "Strassen",
-                                    "2. Auge", "ärger", "Überzug", "Uhr", "(alt)"};
+  std::vector<std::string> names = {"Zahn",    "Ärger",    "arg",     "Arg",   "Argus",   "Öl",  "Ofen", "Straße",
+                                    "Strasse", "Strassen", "2. Auge", "ärger", "Überzug", "Uhr", "(alt)"};
   std::sort(names.begin(), names.end(), [](auto& a, auto& b) { return germanSortKey(a) < germanSortKey(b); });
-  const std::vector<std::string> expected = {"(alt)", "2. Auge", "arg", "Arg", "ärger", "Ärger", "Argus", "Ofen", "Öl",
-                                             "Strasse", "Straße", "Strassen", "Überzug", "Uhr", "Zahn"};
+  const std::vector<std::string> expected = {"(alt)",  "2. Auge",  "arg",     "Arg", "ärger",
+                                             "Ärger",  "Argus",    "Ofen",    "Öl",  "Strasse",
+                                             "Straße", "Strassen", "Überzug", "Uhr", "Zahn"};
   EXPECT_EQ(names, expected);
 }
 
 TEST(Text, TellsUtf8FilesFromOurs) {
-  EXPECT_TRUE(looksLikeUtf8("\xEF\xBB\xBF\"abc\""));
-  EXPECT_TRUE(looksLikeUtf8("Drähte"));
-  EXPECT_FALSE(looksLikeUtf8("Dr\xE4hte"));
-  EXPECT_FALSE(looksLikeUtf8("Drähte und Dr\xE4hte"));
-  EXPECT_FALSE(looksLikeUtf8("plain"));
+  EXPECT_TRUE(looksLikeUnicode("\xEF\xBB\xBF\"abc\""));
+  EXPECT_TRUE(looksLikeUnicode("Drähte"));
+  EXPECT_FALSE(looksLikeUnicode("Dr\xE4hte"));
+  EXPECT_FALSE(looksLikeUnicode("Drähte und Dr\xE4hte"));
+  EXPECT_FALSE(looksLikeUnicode("plain"));
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
 
-struct FieldsRow {
-  const char* name;
-  std::string bytes;
-  std::vector<std::string> fields;
-};
-class Fields : public testing::TestWithParam<FieldsRow> {};
-TEST_P(Fields, AreTakenByTheRules) {
-  RecordReader reader("x", GetParam().bytes);
-  std::vector<std::string> fields;
-  while (!reader.atEnd()) reader.read(fields.emplace_back());
-  EXPECT_EQ(fields, GetParam().fields);
-}
 using Texts = std::vector<std::string>;
-INSTANTIATE_TEST_SUITE_P(
-    Records, Fields,
-    testing::Values(FieldsRow{"quoted", "\"a, b\",\"\"\r\n", Texts{"a, b", ""}},
-                    FieldsRow{"unquoted", "a b ,c\r\n", Texts{"a b ", "c"}},
-                    FieldsRow{"blanks_ahead", "  a,   \"b\"\r\n", Texts{"a", "b"}},
-                    FieldsRow{"rest_behind_quote_lost", "\"a\" lost,b\r\n", Texts{"a", "b"}},
-                    FieldsRow{"quote_within", "a\"b\"\r\n", Texts{"a\"b\""}},
-                    FieldsRow{"empty_line", "\r\na\r\n", Texts{"", "a"}},
-                    FieldsRow{"comma_after_comma", "a,,b,\r\n", Texts{"a", "", "b", ""}},
-                    FieldsRow{"line_feed_only", "a\nb\n", Texts{"a", "b"}},
-                    FieldsRow{"carriage_return_only", "a\rb", Texts{"a", "b"}},
-                    FieldsRow{"no_last_line_end", "a,b", Texts{"a", "b"}},
-                    FieldsRow{"line_end_in_quotes", "\"a\r\nb\",c", Texts{"a\r\nb", "c"}},
-                    FieldsRow{"quote_never_closed", "\"a,b\r\n", Texts{"a,b\r\n"}},
-                    FieldsRow{"comma_at_the_end", "a,", Texts{"a"}}, FieldsRow{"empty_file", "", Texts{}},
-                    FieldsRow{"umlauts", "\xC4pfel,\"\xDF\"\r\n", Texts{"Äpfel", "ß"}}),
-    rowName);
+
+TEST(Records, FieldsAreTakenByTheRules) {
+  // clang-format off
+  const std::vector<std::pair<std::string, Texts>> rows = {
+      {"\"a, b\",\"\"\r\n", {"a, b", ""}}, {"a b ,c\r\n", {"a b ", "c"}}, {"  a,   \"b\"\r\n", {"a", "b"}},
+      {"\"a\" lost,b\r\n", {"a", "b"}}, {"a\"b\"\r\n", {"a\"b\""}}, {"\r\na\r\n", {"", "a"}},
+      {"a,,b,\r\n", {"a", "", "b", ""}}, {"a\nb\n", {"a", "b"}}, {"a\rb", {"a", "b"}}, {"a,b", {"a", "b"}},
+      {"\"a\r\nb\",c", {"a\r\nb", "c"}}, {"\"a,b\r\n", {"a,b\r\n"}}, {"a,", {"a"}}, {"", {}},
+      {"\xC4pfel,\"\xDF\"\r\n", {"Äpfel", "ß"}}};
+  // clang-format on
+  for (const auto& [bytes, fields] : rows) {
+    RecordReader reader("x", bytes);
+    Texts taken;
+    while (!reader.atEnd()) reader.read(taken.emplace_back());
+    EXPECT_EQ(taken, fields) << bytes;
+  }
+}
 
 TEST(Records, NumbersTakeThePointAndNothingElse) {
   const std::string bytes = "5,+7,-3 ,\"4\",2.0,,\r\n0.5,.25,1e1,1000000,0.00005,-1.5\r\n#TRUE#,#FALSE# ,0,2,\r\n";
@@ -221,9 +177,11 @@ std::string faultOf(const std::string& bytes) {
 TEST(Records, FaultsNameFileLineAndField) {
   EXPECT_EQ(faultOf<Integer>("\r\n"), "Datei.txt, Zeile 2, Feld 2: Hier endet die Datei mitten in einem Eintrag.");
   EXPECT_EQ(faultOf<Integer>("a,b"), "Datei.txt, Zeile 1, Feld 2: „b“ ist keine ganze Zahl von -32768 bis 32767.");
-  for (const char* bad : {"a,2.5", "a,40000", "a,--1", "a,+-1", "a,1 2", "a,5.x", "a,0x1"}) EXPECT_NE(faultOf<Integer>(bad), "none") << bad;
+  for (const char* bad : {"a,2.5", "a,40000", "a,--1", "a,+-1", "a,1 2", "a,5.x", "a,0x1"})
+    EXPECT_NE(faultOf<Integer>(bad), "none") << bad;
   for (const char* bad : {"a,nan", "a,inf", "a,1e99", "a,x", "a,1;5"}) EXPECT_NE(faultOf<Single>(bad), "none") << bad;
-  for (const char* bad : {"a,1e3", "a,1.000.000", "a,9999999999999999", "a,-"}) EXPECT_NE(faultOf<Currency>(bad), "none") << bad;
+  for (const char* bad : {"a,1e3", "a,1.000.000", "a,9999999999999999", "a,-"})
+    EXPECT_NE(faultOf<Currency>(bad), "none") << bad;
   for (const char* bad : {"a,ja", "a,#true#", "a,#TRUE#x"}) EXPECT_NE(faultOf<bool>(bad), "none") << bad;
 }
 
@@ -253,11 +211,8 @@ TEST(Records, WhatIsWrittenReadsBackEqual) {
     Single single1 = 0;
     reader.read(text1, whole1, money1, single1, text2);
     reader.read(whole2);
-    EXPECT_EQ(text1, text);
-    EXPECT_EQ(text2, text);
-    EXPECT_EQ(std::pair(whole1, whole2), std::pair(whole, whole));
-    EXPECT_EQ(money1, money);
-    EXPECT_EQ(single1, single);
+    EXPECT_EQ(std::tie(text1, whole1, money1, single1, text2, whole2),
+              std::tie(text, whole, money, single, text, whole));
     EXPECT_TRUE(reader.atEnd());
   }
 }
@@ -277,17 +232,15 @@ TEST(Records, AreWrittenByTheByte) {
 TEST(Files, ReplaceIsWholeAndLeavesNoLitter) {
   const TemporaryFolder folder;
   FaultyFiles files;
-  writeBytes("old.txt.neu", "left by a run that was killed");
+  writeBytes("Bogenwerker.neu", "left by a run that was killed");
   files.setMostPerWrite(3);
   files.replace("old.txt", "new content", Durability::onDisk);
   EXPECT_EQ(fileBytes("old.txt"), "new content");
   EXPECT_EQ(fileNames(), Texts{"old.txt"});
 
-  const int calls = [&files] {
-    files.failAt(1000, EIO);
-    files.replace("old.txt", "new content", Durability::onDisk);
-    return files.calls();
-  }();
+  files.failAt(1000, EIO);
+  files.replace("old.txt", "new content", Durability::onDisk);
+  const int calls = files.calls();
   ASSERT_GE(calls, 5);
   for (int call = 0; call < calls; ++call) {
     files.failAt(call, ENOSPC);
@@ -360,7 +313,10 @@ class FormsTest : public testing::Test {
                         .throwDie = nullptr}};
   SampleForm form{runtime};
   SampleForm second{runtime};
-  void SetUp() override { form.setVisible(true); form.other = &second; }
+  void SetUp() override {
+    form.setVisible(true);
+    form.other = &second;
+  }
 };
 
 TEST_F(FormsTest, OptionsExcludeEachOtherWithinTheirContainerOnly) {
@@ -427,7 +383,8 @@ TEST_F(FormsTest, AFaultLeavesEverythingAsItWas) {
   EXPECT_FALSE(second.wasLoaded);
   EXPECT_FALSE(runtime.isOver());
   EXPECT_TRUE(runtime.isUntouched());
-  for (const std::string& heard : view.heard) EXPECT_TRUE(heard != "show" && heard != "hide" && heard[0] != '-') << heard;
+  for (const std::string& heard : view.heard)
+    EXPECT_TRUE(heard != "show" && heard != "hide" && heard[0] != '-') << heard;
   second.setVisible(false);
   EXPECT_TRUE(second.list.lines().empty());
 }

@@ -4,14 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <regex>
 #include <sstream>
 
+#include "headless/dump.h"
 #include "headless/gestures.h"
 
 namespace bogenwerker {
@@ -37,7 +38,7 @@ ssize_t FaultyFiles::writeFile(int file, const char* bytes, std::size_t count) {
 int FaultyFiles::flushFile(int file) { return fails() ? -1 : Files::flushFile(file); }
 int FaultyFiles::closeFile(int file) {
   if (file != writing_) return Files::closeFile(file);  // what was only read is whole whatever close says
-  const bool failing = fails();  // the descriptor is gone either way, as with the real call
+  const bool failing = fails();                         // the descriptor is gone either way, as with the real call
   const int error = errno;
   const int result = Files::closeFile(file);
   if (failing) errno = error;
@@ -61,34 +62,71 @@ TemporaryFolder::~TemporaryFolder() {
 World::World()
     : wizard({.files = files,
               .numbers = numbers,
-              .showMessage = [this](Message kind,
-                                    std::string_view text) { (kind == Message::fault ? faults : messages).emplace_back(text); },
+              .showMessage =
+                  [this](Message kind, std::string_view text) {
+                    (kind == Message::fault ? faults : messages).emplace_back(text);
+                  },
               .throwDie = [this] { return die; }}) {
   copyShippedData();
 }
 
+namespace {
+
+// The gestures that one line of a script tells.
+std::vector<std::string> gesturesOf(const std::string& line) {
+  static const std::regex repeated("([0-9]+) x (.*)");
+  std::smatch match;
+  if (!std::regex_match(line, match, repeated)) return {line};
+  std::vector<std::string> gestures;
+  for (int i = 0; i < std::stoi(match[1]); ++i) {
+    std::string rest = std::regex_replace(match[2].str(), std::regex("%"), std::to_string(i));
+    for (std::size_t end = 0; (end = rest.find("; ")) != rest.npos; rest.erase(0, end + 2)) {
+      gestures.push_back(rest.substr(0, end));
+    }
+    gestures.push_back(rest);
+  }
+  return gestures;
+}
+
+}  // namespace
+
 std::vector<std::string> World::play(std::string_view script) {
   std::vector<std::string> replies;
-  std::istringstream lines{std::string(script)};
-  for (std::string line; std::getline(lines, line);) {
-    if (auto reply = carryOut(wizard, line)) replies.push_back(std::move(*reply));
+  for (const std::string& line : splitLines(std::string(script))) {
+    for (const std::string& gesture : gesturesOf(line)) {
+      if (wizard.runtime().visibleForm() == nullptr) return {"no form is shown"};
+      if (auto reply = carryOut(wizard, gesture)) replies.push_back(std::move(*reply));
+    }
   }
   return replies;
 }
 
 void World::playOk(std::string_view script) {
-  std::istringstream lines{std::string(script)};
-  for (std::string line; std::getline(lines, line);) {
-    const auto reply = carryOut(wizard, line);
-    if (reply && *reply != "ok") ADD_FAILURE() << line << ": " << *reply;
+  for (const std::string& line : splitLines(std::string(script))) {
+    for (const std::string& reply : play(line)) {
+      if (reply != "ok") ADD_FAILURE() << line << ": " << reply;
+    }
   }
 }
 
-std::string World::dump() { return play("dump").at(0); }
+void World::playRoad(const std::string& name) {
+  const std::string script = fileBytes(SOURCE_DIR "/tests/roads/" + name + ".txt");
+  if (script.empty()) ADD_FAILURE() << "there is no road " << name;
+  playOk(script);
+}
+
+std::string World::dump() { return dumpOf(wizard); }
 
 std::string fileBytes(const std::string& name) {
   std::ifstream file(name, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+std::vector<std::string> splitLines(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
 }
 
 void writeBytes(const std::string& name, std::string_view bytes) {
@@ -97,7 +135,8 @@ void writeBytes(const std::string& name, std::string_view bytes) {
 
 void copyShippedData() {
   for (const auto& entry : std::filesystem::directory_iterator(SOURCE_DIR "/data")) {
-    std::filesystem::copy_file(entry.path(), entry.path().filename(), std::filesystem::copy_options::overwrite_existing);
+    std::filesystem::copy_file(entry.path(), entry.path().filename(),
+                               std::filesystem::copy_options::overwrite_existing);
   }
 }
 
@@ -107,58 +146,5 @@ std::vector<std::string> fileNames() {
   std::sort(names.begin(), names.end());
   return names;
 }
-
-namespace road {
-
-std::string press(std::string_view button, int times) {
-  std::string script;
-  while (times-- > 0) script.append("click ").append(button).append("\n");
-  return script;
-}
-
-std::string priorities(std::string_view race, std::string_view magic, std::string_view attributes,
-                       std::string_view skills, std::string_view resources) {
-  std::string script;
-  for (const std::string_view option : {race, magic, attributes, skills, resources}) script += press(option, 1);
-  return script + "click cmdWeiter1\n";
-}
-
-std::string attributes(std::vector<int> points) {
-  constexpr std::array<std::string_view, 6> names = {"Konst", "Schnell", "Stark", "Charisma", "Intell", "Will"};
-  std::string script;
-  for (std::size_t i = 0; i < names.size(); ++i) script += press("cmd" + std::string(names[i]) + "Plus", points[i]);
-  return script + "click cmdWeiter2\n";
-}
-
-std::string skills(int points, int konstitution) {
-  std::string script;
-  for (int number = 1; points > 0; ++number) {
-    const int levels = std::min({points, konstitution, 6});
-    script += "type txtAFertigkeit Fertigkeit " + std::to_string(number) + "\nclick optAFKonst\nclick cmdAddFertigkeit\n";
-    script += "select lstAFertigkeiten " + std::to_string(number - 1) + "\n" + press("cmdFertigkeitPlus", levels);
-    points -= levels;
-  }
-  return script + "click cmddisformisready\n";
-}
-
-std::string knowledge(int intelligenz) {
-  const int language = intelligenz * 3 / 2;
-  std::string script;
-  const auto spend = [&script, intelligenz](int points, std::string_view box, std::string_view button,
-                                            std::string_view list) {
-    for (int number = 1; points > 0; ++number) {
-      const int levels = std::min({points, intelligenz, 6});
-      script.append("type ").append(box).append(" Eintrag ").append(std::to_string(number)).append("\nclick ");
-      script.append(button).append("\nselect ").append(list).append(" ").append(std::to_string(number - 1)).append("\n");
-      script += press("cmdPlusWFert", levels);
-      points -= levels;
-    }
-  };
-  spend(language, "txtSprache", "cmdAddSprache", "lstSprachen");
-  spend(intelligenz * 5, "txtWFertigkeit", "cmdAddWFertigkeit", "lstWFertigkeiten");
-  return script + "click cmdGoAhead\n";
-}
-
-}  // namespace road
 
 }  // namespace bogenwerker

@@ -57,10 +57,13 @@ class World {
  public:
   World();
 
-  // Carries out a script of gestures, a line each; gives back the replies.
+  // Carries out a script of gestures, a line each, and gives back the replies. A line may also tell several gestures at
+  // once: "3 x click one; type two %" is both of them three times over, with 0, 1, 2 for the %.
   std::vector<std::string> play(std::string_view script);
   // The same, and every reply has to be ok.
   void playOk(std::string_view script);
+  // Plays tests/roads/NAME.txt, which leads from the first form to where it says.
+  void playRoad(const std::string& name);
 
   // The state of all loaded forms as one line of JSON.
   [[nodiscard]] std::string dump();
@@ -82,24 +85,10 @@ constexpr auto rowName = [](const auto& row) { return std::string(row.param.name
 
 // The bytes of a file in the current folder, empty if there is none.
 std::string fileBytes(const std::string& name);
+std::vector<std::string> splitLines(const std::string& text);
 void writeBytes(const std::string& name, std::string_view bytes);
 void copyShippedData();
 // Names of all files in the current folder, sorted.
 std::vector<std::string> fileNames();
-
-// Scripts from the first form to the named one, with nothing special bought on the way. Each begins where the one
-// before it ends.
-namespace road {
-// The five options of step 1 and its way out.
-std::string priorities(std::string_view race, std::string_view magic, std::string_view attributes,
-                       std::string_view skills, std::string_view resources);
-// Step 2 with points for Konstitution, Schnelligkeit, Stärke, Charisma, Intelligenz, Willenskraft.
-std::string attributes(std::vector<int> points);
-// Step 3 with one skill after the other on Konstitution until the points are gone.
-std::string skills(int points, int konstitution);
-// Step 4 for an Intelligenz of 1 to 6.
-std::string knowledge(int intelligenz);
-std::string press(std::string_view button, int times);
-}  // namespace road
 
 }  // namespace bogenwerker
