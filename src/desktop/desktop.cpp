@@ -50,23 +50,24 @@ void Desktop::formUnloaded(Form& form) {
 
 void Desktop::controlChanged(Control& control) { windows_.at(&control.form())->sync(control); }
 
-// A step appears where the one before it stood; where the first one appears is up to the system.
+// A step appears where the one before it stood; where the first one appears is up to the system. Told
+// by the content, since frames are added around a window only once it is seen, and not by every system alike.
 void Desktop::place(FormWindow& window, bool inTheMiddle) {
   for (const auto& [form, other] : windows_) {
-    if (other->isVisible() && !form->isDialog()) stand_ = other->pos();
+    if (other->isVisible() && !form->isDialog()) stand_ = other->geometry().topLeft();
   }
   const QRect room = window.screen()->availableGeometry();
-  QRect frame(stand_.value_or(room.topLeft()), window.size());
+  QRect content(stand_.value_or(room.topLeft()), window.size());
   if (inTheMiddle) {
-    frame.moveCenter(room.center());
+    content.moveCenter(room.center());
   } else {
     if (!stand_) return;
-    frame.moveRight(std::min(frame.right(), room.right()));
-    frame.moveBottom(std::min(frame.bottom(), room.bottom()));
-    frame.moveLeft(std::max(frame.left(), room.left()));
-    frame.moveTop(std::max(frame.top(), room.top()));
+    content.moveRight(std::min(content.right(), room.right()));
+    content.moveBottom(std::min(content.bottom(), room.bottom()));
+    content.moveLeft(std::max(content.left(), room.left()));
+    content.moveTop(std::max(content.top(), room.top()));
   }
-  window.move(frame.topLeft());
+  window.setGeometry(content);
 }
 
 void Desktop::showMessage(Message kind, std::string_view text) {

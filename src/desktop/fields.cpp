@@ -166,6 +166,15 @@ int PickBox::popupWidth() const {
 // A page that is scrolled past must not change what was picked.
 void PickBox::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
+// Whoever comes by a click means to look for an entry, not to add to the text that stands there: as with the Tab key,
+// typing replaces it. The click itself sets the cursor only after this.
+void PickBox::focusInEvent(QFocusEvent* event) {
+  QComboBox::focusInEvent(event);
+  if (event->reason() == Qt::MouseFocusReason) {
+    QMetaObject::invokeMethod(lineEdit(), &QLineEdit::selectAll, Qt::QueuedConnection);
+  }
+}
+
 // ---------------------------------------------------------------------------------------------------------------------
 
 LineList::LineList(ListBox& box) : box_(box) {

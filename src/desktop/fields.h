@@ -76,6 +76,7 @@ class PickBox final : public QComboBox {
 
  protected:
   void wheelEvent(QWheelEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   [[nodiscard]] int popupWidth() const;

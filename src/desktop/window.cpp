@@ -254,7 +254,7 @@ void FormWindow::limitSize() {
 
 void FormWindow::focusFirst() {
   for (QWidget* widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {
-    if ((widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isEnabled()) return widget->setFocus();
+    if ((widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isEnabled()) return widget->setFocus(Qt::TabFocusReason);
   }
 }
 
