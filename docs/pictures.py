@@ -8,7 +8,8 @@ import subprocess
 import sys
 from pathlib import Path
 
-from sheet_test import Browser
+sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "tests" / "browser"))
+from sheet_test import Browser  # noqa: E402
 
 
 def main():
