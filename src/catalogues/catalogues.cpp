@@ -60,14 +60,12 @@ std::string tooManyRows(std::string_view file, int rows, int mostRows) {
          std::to_string(mostRows) + ".";
 }
 
-void CatalogueReader::checkName(std::string_view name) const {
-  const auto refuse = [this](std::string_view why) {
-    throw Fault(std::string(file_) + ", Zeile " + std::to_string(lineOf(bytes_, start_)) +
-                ", Feld 1: " + std::string(why));
-  };
-  if (name.empty()) refuse("Der Name fehlt.");
-  if (name.find('"') != name.npos) refuse("Im Namen steht ein Anführungszeichen.");
-  if (name.find_first_of("\r\n") != name.npos) refuse("Im Namen endet die Zeile. Fehlt ein Anführungszeichen?");
+void CatalogueReader::refuseName(std::string_view name) const {
+  const std::string_view why = name.empty()                  ? "Der Name fehlt."
+                               : name.find('"') != name.npos ? "Im Namen steht ein Anführungszeichen."
+                                                             : "Im Namen endet die Zeile. Fehlt ein Anführungszeichen?";
+  throw Fault(std::string(file_) + ", Zeile " + std::to_string(lineOf(bytes_, start_)) +
+              ", Feld 1: " + std::string(why));
 }
 
 // The first line with another number of fields than it should have, from the last row that began a line up to where

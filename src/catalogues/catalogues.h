@@ -89,7 +89,7 @@ class CatalogueReader {
     try {
       reader_.read(row.name);
       row.readRest(reader_);
-      checkName(row.name);
+      if (!isPlain(row.name)) refuseName(row.name);
     } catch (const Fault& fault) {
       throw Fault(blame(fault.what(), Row::fields));
     }
@@ -98,7 +98,13 @@ class CatalogueReader {
   void goOn() { reader_.seek(behindBlame_); }
 
  private:
-  void checkName(std::string_view name) const;
+  // True for a name that a record can hold; a loop that the compiler turns into vector instructions.
+  static bool isPlain(std::string_view name) {
+    bool bad = name.empty();
+    for (const char c : name) bad = bad | (c == '"') | (c == '\r') | (c == '\n');
+    return !bad;
+  }
+  [[noreturn]] void refuseName(std::string_view name) const;
   std::string blame(std::string_view fault, int fields);
 
   std::string_view file_;

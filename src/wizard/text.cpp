@@ -168,8 +168,13 @@ std::string germanSortKey(std::string_view text) {
   while (!text.empty()) {
     const char32_t character = takeCharacter(text);
     const char32_t small = smallLetter(character);
-    const auto* const first = small < 0x80 ? marked.end() : marked.begin();  // ASCII letters bear no marks
-    const auto* entry = std::find_if(first, marked.end(), [small](const SortLetter& row) {
+    cases += small == character ? '\1' : '\2';
+    if (small < 0x80) {  // ASCII letters bear no marks
+      letters += static_cast<char>(small);
+      accents += '\1';
+      continue;
+    }
+    const auto* entry = std::find_if(marked.begin(), marked.end(), [small](const SortLetter& row) {
       return row.letters.find(small) != std::u32string_view::npos;
     });
     if (entry == marked.end()) {
@@ -179,7 +184,6 @@ std::string germanSortKey(std::string_view text) {
       if (small == U'ß') letters += 's';
     }
     appendUtf8(accents, entry == marked.end() ? char32_t{1} : small);
-    cases += small == character ? '\1' : '\2';
   }
   letters.append(1, '\0').append(accents).append(1, '\0').append(cases);
   return letters;
