@@ -7,7 +7,6 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <system_error>
 
 #include "wizard/fault.h"

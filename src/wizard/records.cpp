@@ -146,8 +146,7 @@ int lineOf(std::string_view bytes, std::size_t position) {
 std::string savedAsUnicode(std::string_view file) {
   return std::string(file) +
          ": Die Datei ist als Unicode (UTF-8 oder UTF-16) gespeichert. Bitte speichern Sie sie in der Kodierung „ANSI“ "
-         "(Windows-1252, "
-         "Westeuropäisch).";
+         "(Windows-1252, Westeuropäisch).";
 }
 
 void RecordWriter::put(std::string_view field) { bytes_.append("\"").append(cp1252FromUtf8(field)).append("\""); }
