@@ -8,9 +8,10 @@
 #include <iterator>
 #include <sstream>
 
+#include "catalogues/check.h"
 #include "headless/gestures.h"
-#include "sequence/wizard.h"
-#include "wizard/text.h"
+#include "values/text.h"
+#include "wizard/wizard.h"
 
 namespace bogenwerker {
 namespace {
@@ -121,6 +122,31 @@ BENCHMARK(ReadCyberware);
 
 // ---------------------------------------------------------------------------------------------------------------------
 
+// Reading the full catalogues for the check ahead of the first form, and once more for what looks like a slip: each to
+// stay within a few milliseconds.
+void CheckFullCatalogues(benchmark::State& state) {
+  const Folder folder;
+  fillCatalogues();
+  Files files;
+  std::vector<std::string> faults;
+  for (auto _ : state) checkCatalogues(files, faults);
+  if (!faults.empty()) state.SkipWithError("a catalogue could not be read");
+}
+BENCHMARK(CheckFullCatalogues)->Unit(benchmark::kMicrosecond);
+
+void FindSlipsInFullCatalogues(benchmark::State& state) {
+  const Folder folder;
+  fillCatalogues();
+  Files files;
+  Wizard wizard(quiet(files));
+  for (auto _ : state) {
+    if (!wizard.slips().empty()) state.SkipWithError("a row looks like a slip");
+  }
+}
+BENCHMARK(FindSlipsInFullCatalogues)->Unit(benchmark::kMicrosecond);
+
+// ---------------------------------------------------------------------------------------------------------------------
+
 // Merely opening, reading and closing what step 6 does for every line.
 void OpenReadCloseForEveryLine(benchmark::State& state) {
   const Folder folder;
@@ -161,7 +187,7 @@ void LoadStepSix(benchmark::State& state, std::string (*lineOf)(int)) {
   for (auto _ : state) {
     Wizard wizard(quiet(files));
     const double start = workedSoFar();
-    wizard.runtime().perform(wizard.formAusrüstung, [&wizard] { wizard.formFeinschliff.setVisible(false); });
+    wizard.runtime().perform({}, [&wizard] { wizard.formFeinschliff.setVisible(false); });
     state.SetIterationTime(workedSoFar() - start);
     if (!wizard.formNamenGeben.isVisible()) state.SkipWithError("step 6 was not reached");
   }

@@ -1,13 +1,22 @@
 // A wizard in a folder of its own: catalogues as shipped, dice that are known, a disk that can fail.
 #pragma once
 
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <functional>
+#include <iterator>
+#include <random>
+#include <sstream>
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include "sequence/wizard.h"
-#include "wizard/files.h"
+#include "headless/dump.h"
+#include "headless/gestures.h"
+#include "outside/files.h"
+#include "wizard/wizard.h"
 
 namespace bogenwerker {
 
@@ -22,51 +31,123 @@ class FaultyFiles final : public Files {
   }
   void heal() { failing_ = -1; }
   [[nodiscard]] int calls() const { return calls_; }
-  // Every write passes on at most that many bytes.
-  void setMostPerWrite(std::size_t bytes) { mostPerWrite_ = bytes; }
+  std::size_t mostPerWrite = static_cast<std::size_t>(-1);
+  int foldersFlushed = 0;  // which may fail in silence, and so does not count as a call
 
  private:
-  int openFile(const char* path, int flags) override;
-  ssize_t readFile(int file, char* bytes, std::size_t most) override;
-  ssize_t writeFile(int file, const char* bytes, std::size_t count) override;
-  int flushFile(int file) override;
-  int closeFile(int file) override;
-  int renameFile(const char* from, const char* to) override;
-  bool fails();
+  template <class Call>
+  auto unlessFailing(Call call) -> decltype(call()) {
+    if (calls_++ != failing_) return call();
+    errno = error_;
+    return -1;
+  }
+  int openFile(const char* path, Opening opening) override {
+    const int file = unlessFailing([=, this] { return Files::openFile(path, opening); });
+    writing_ = opening == Opening::toMake ? file : -1;  // never two files are open at once
+    return file;
+  }
+  ssize_t readFile(int file, char* bytes, std::size_t most) override {
+    return unlessFailing([=, this] { return Files::readFile(file, bytes, most); });
+  }
+  ssize_t writeFile(int file, const char* bytes, std::size_t count) override {
+    return unlessFailing([=, this] { return Files::writeFile(file, bytes, std::min(count, mostPerWrite)); });
+  }
+  int flushFile(int file) override {
+    if (file == writing_) return unlessFailing([=, this] { return Files::flushFile(file); });
+    ++foldersFlushed;
+    return Files::flushFile(file);
+  }
+  int closeFile(int file) override {
+    const int result = Files::closeFile(file);  // the descriptor is gone either way, as with the real call
+    // What was only read is whole whatever close says.
+    return std::exchange(writing_, -1) == file ? unlessFailing([=] { return result; }) : result;
+  }
+  int renameFile(const char* from, const char* to) override {
+    return unlessFailing([=, this] { return Files::renameFile(from, to); });
+  }
+  int checkWritable(const char* path) override {
+    return unlessFailing([=, this] { return Files::checkWritable(path); });
+  }
+  int copyMode(int file, const char* from) override {
+    return unlessFailing([=, this] { return Files::copyMode(file, from); });
+  }
 
   int writing_ = -1;
   int calls_ = 0;
   int failing_ = -1;
   int error_ = 0;
-  std::size_t mostPerWrite_ = static_cast<std::size_t>(-1);
 };
 
 // Makes a folder below the system's temporary one, goes there, and takes the folder away in the end.
 class TemporaryFolder {
  public:
-  TemporaryFolder();
-  ~TemporaryFolder();
+  TemporaryFolder() {
+    std::random_device random;
+    do path_ = std::filesystem::temp_directory_path() / ("bogenwerker-" + std::to_string(random()));
+    while (!std::filesystem::create_directory(path_));
+    std::filesystem::current_path(path_);
+  }
+  ~TemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::current_path("/", ignored);
+    std::filesystem::remove_all(path_, ignored);
+  }
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
  private:
-  std::string path_;
+  std::filesystem::path path_;
 };
+
+// A path from UTF-8, wherever that is not what the system takes bytes for.
+inline std::filesystem::path pathOf(const std::string& name) { return std::u8string(name.begin(), name.end()); }
+
+// The bytes of a file, empty if there is none.
+inline std::string fileBytes(const std::string& name) {
+  std::ifstream file(pathOf(name), std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+inline void writeBytes(const std::string& name, const std::string& bytes) {
+  std::ofstream(pathOf(name), std::ios::binary) << bytes;
+}
+
+inline std::vector<std::string> splitLines(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
+}
+
+// Names of all files in the current folder, sorted.
+inline std::vector<std::string> fileNames() {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(".")) names.push_back(entry.path().filename().string());
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+inline void copyShippedData() { std::filesystem::copy(SOURCE_DIR "/data", "."); }
 
 class World {
  public:
-  World();
-
-  // Carries out a script of gestures, a line each, and gives back the replies. A line may also tell several gestures at
-  // once: "3 x click one; type two %" is both of them three times over, with 0, 1, 2 for the %.
-  std::vector<std::string> play(std::string_view script);
-  // The same, and every reply has to be ok.
-  void playOk(std::string_view script);
-  // Plays tests/roads/NAME.txt, which leads from the first form to where it says.
-  void playRoad(const std::string& name);
-
+  explicit World(NumberLocale numbers = {",", "."})  // as a German player has them
+      : wizard({.files = files,
+                .numbers = std::move(numbers),
+                .showMessage = [this](Message kind, std::string_view text) { showMessage(kind, text); },
+                .throwDie = [this] { return die; }}) {
+    copyShippedData();
+  }
+  // Carries out gestures, a line each, and gives back the replies.
+  std::vector<std::string> play(const std::string& script) {
+    std::vector<std::string> replies;
+    for (const std::string& gesture : splitLines(script)) {
+      if (wizard.runtime().visibleForm() == nullptr) return {"no form is shown"};
+      if (auto reply = carryOut(wizard, gesture)) replies.push_back(std::move(*reply));
+    }
+    return replies;
+  }
   // The state of all loaded forms as one line of JSON.
-  [[nodiscard]] std::string dump();
+  [[nodiscard]] std::string dump() { return dumpOf(wizard); }
 
  private:
   TemporaryFolder folder_;
@@ -75,20 +156,11 @@ class World {
   FaultyFiles files;
   std::vector<std::string> messages;
   std::vector<std::string> faults;
+  std::function<void(Message, std::string_view)> showMessage = [this](Message kind, std::string_view text) {
+    (kind == Message::fault ? faults : messages).emplace_back(text);
+  };
   int die = 3;
-  NumberLocale numbers{",", "."};  // as a German player has them
   Wizard wizard;
 };
-
-// Names a test by the name of its row.
-constexpr auto rowName = [](const auto& row) { return std::string(row.param.name); };
-
-// The bytes of a file in the current folder, empty if there is none.
-std::string fileBytes(const std::string& name);
-std::vector<std::string> splitLines(const std::string& text);
-void writeBytes(const std::string& name, std::string_view bytes);
-void copyShippedData();
-// Names of all files in the current folder, sorted.
-std::vector<std::string> fileNames();
 
 }  // namespace bogenwerker

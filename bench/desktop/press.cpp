@@ -13,7 +13,7 @@
 #include "desktop/desktop.h"
 #include "desktop/text.h"
 #include "headless/gestures.h"
-#include "sequence/wizard.h"
+#include "wizard/wizard.h"
 
 namespace bogenwerker {
 namespace {

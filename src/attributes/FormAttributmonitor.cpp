@@ -6,7 +6,7 @@
 namespace bogenwerker {
 
 FormAttributmonitor::FormAttributmonitor(FormsRuntime& runtime, FormAktionFertigkeit& aktionFertigkeit)
-    : FormWith(runtime, "formAttributmonitor", {.caption = "Attributmonitor - Schritt 2"}),
+    : FormWith(runtime, "formAttributmonitor", {.caption = "Attributmonitor - Schritt 2", .help = "schritt2"}),
       formAktionFertigkeit(aktionFertigkeit) {}
 
 // clang-format off
@@ -66,19 +66,30 @@ void FormAttributmonitor::berechneSumme() {
   lblNatWill.setCaption(NatWill.text());
 }
 
-void FormAttributmonitor::checkREGEL() {
-  cmdWeiter2.setEnabled(false);
-  if (lblVerbrAttributPunkte.caption() != lblTotalAttributPunkte.caption()) return;
+void FormAttributmonitor::checkREGEL() { cmdWeiter2.setEnabled(whyNotWeiter2().empty()); }
 
-  bool legal = true;
-  for (const Variant* Punkte :
-       {&KonstPunkte, &SchnellPunkte, &StarkPunkte, &CharismaPunkte, &IntellPunkte, &WillPunkte}) {
-    legal = legal && *Punkte < 7 && *Punkte > 0;
+std::string FormAttributmonitor::whyNotWeiter2() const {
+  const std::string& spent = lblVerbrAttributPunkte.caption();
+  const std::string& total = lblTotalAttributPunkte.caption();
+  if (spent != total) {
+    const int left = integerOf(total).value() - integerOf(spent).value();
+    if (left > 0) return "Noch " + std::to_string(left) + " von " + total + " Punkten frei.";
+    return spent + " von " + total + " Punkten ausgegeben: " + std::to_string(-left) + " zu viel.";
   }
-  for (const Variant* Nat : {&NatKonst, &NatSchnell, &NatStark, &NatCharisma, &NatIntell, &NatWill}) {
-    legal = legal && *Nat > 0;
+
+  struct Row {
+    const Label& name;
+    const Variant& Nat;
+    const Variant& Punkte;
+  };
+  for (const Row& row : {Row{lblKonst, NatKonst, KonstPunkte}, Row{lblSchnell, NatSchnell, SchnellPunkte},
+                         Row{lblStark, NatStark, StarkPunkte}, Row{lblCharisma, NatCharisma, CharismaPunkte},
+                         Row{lblIntelligenz, NatIntell, IntellPunkte}, Row{lblWill, NatWill, WillPunkte}}) {
+    if (!(row.Nat > 0)) return row.name.caption() + " muss mindestens 1 sein.";
+    if (!(row.Punkte > 0)) return row.name.caption() + " braucht mindestens 1 Punkt.";
+    if (!(row.Punkte < 7)) return row.name.caption() + " darf höchstens 6 Punkte haben.";
   }
-  cmdWeiter2.setEnabled(legal);
+  return {};
 }
 
 }  // namespace bogenwerker

@@ -1,7 +1,7 @@
 // What step 2 hands over to step 3.
 #pragma once
 
-#include "wizard/numbers.h"
+#include "values/numbers.h"
 
 namespace bogenwerker {
 

@@ -1,13 +1,12 @@
-// The six catalogue files: what a row holds, how rows are read, looked up and checked.
+// The six catalogue files: what a row holds, how rows are read and looked up.
 #pragma once
 
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "wizard/fault.h"
-#include "wizard/files.h"
-#include "wizard/records.h"
+#include "outside/files.h"
+#include "outside/records.h"
+#include "values/fault.h"
 
 namespace bogenwerker {
 
@@ -22,6 +21,7 @@ constexpr int mostCyberdecks = 20;
 // A row of Lebensstil.txt or Connection.txt.
 struct PriceRow {
   static constexpr int fields = 2;
+  static constexpr int priceField = 2;
   std::string name;
   Currency kosten;
   void readRest(RecordReader& reader) { reader.readOn(kosten); }
@@ -30,6 +30,7 @@ struct PriceRow {
 // A row of MagicStuff.txt.
 struct MagicRow {
   static constexpr int fields = 4;
+  static constexpr int priceField = 3;
   std::string name;
   Integer spruchpunkte;
   Currency kosten;
@@ -49,6 +50,7 @@ struct WareEffects {
 // A row of Cyberware.txt, or of Bioware.txt with the Bio-Index cost in place of the Essenz cost.
 struct WareRow {
   static constexpr int fields = 17;
+  static constexpr int priceField = 3;
   std::string name;
   Single essenz = 0;
   Currency kosten;
@@ -63,6 +65,7 @@ struct WareRow {
 // A row of Cyberdecks.txt.
 struct DeckRow {
   static constexpr int fields = 4;
+  static constexpr int priceField = 3;
   std::string name;
   Integer MPCP;
   Currency kosten;
@@ -151,9 +154,5 @@ void forEachRowNamed(Files& files, std::string_view file, std::string_view name,
     if (reader.position() > next) next = findText(buffer, name, reader.position());
   }
 }
-
-// Appends what is wrong with the player's six files, a line of German for each fault with file, line and field. A name
-// that stands twice is no fault.
-void checkCatalogues(Files& files, std::vector<std::string>& faults);
 
 }  // namespace bogenwerker

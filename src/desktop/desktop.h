@@ -1,34 +1,45 @@
 // The front end on the screen: a window for every loaded form.
 #pragma once
 
+#include <QKeyEvent>
+#include <QMargins>
 #include <QObject>
-#include <QPoint>
+#include <QRect>
 #include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string_view>
 
+#include "desktop/held_keys.h"
 #include "desktop/look.h"
 #include "desktop/window.h"
-#include "wizard/environment.h"
-#include "wizard/forms.h"
+#include "forms/forms.h"
+#include "outside/environment.h"
+#include "wizard/journal.h"
 
 namespace bogenwerker {
 
 // Shows what the model says and asks before a character is thrown away. It knows no form by name and decides nothing
 // about the way through them.
-class Desktop final : public QObject, public View {
+class Desktop final : public QObject, public Observer {
  public:
   // Calls whenOver after the last form is gone.
-  Desktop(Look& look, std::function<void()> whenOver) : look_(look), whenOver_(std::move(whenOver)) {}
+  Desktop(Look& look, std::function<void()> whenOver);
 
   // Shows all that is loaded, and from then on whatever changes. Of the two, this must not be the first to go while
   // the runtime still carries out gestures.
-  void show(FormsRuntime& runtime);
+  // With a journal the player may also interrupt the character and go on another day.
+  void show(FormsRuntime& runtime, Journal* journal = nullptr);
+  // The question ahead of the first window: whether the interrupted character is to go on.
+  [[nodiscard]] static bool wantsToGoOn();
+  // A sentence for the next form that is shown.
+  void tellOnNextForm(std::string_view text);
   // For Environment: a message box with a single OK button. Returns once it is dismissed.
   void showMessage(Message kind, std::string_view text);
-  // In percent; every window is made to fit anew.
+  // Whether to begin all the same, ahead of the first form.
+  [[nodiscard]] bool askToBegin(std::string_view text);
+  // In percent; every window is made to fit, and placed, anew.
   void zoomTo(int percent);
 
  private:
@@ -38,15 +49,24 @@ class Desktop final : public QObject, public View {
   void controlChanged(Control& control) override;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
-  bool zoomByKey(int key);
+  [[nodiscard]] bool helpByKey(const QKeyEvent& press) const;
+  bool lookByKey(const QKeyEvent& press);
+  void interrupt();
   void askToClose(QWidget& window);
   void place(FormWindow& window, bool inTheMiddle);
+  void lookAround();
 
   Look& look_;
   std::function<void()> whenOver_;
   FormsRuntime* runtime_ = nullptr;
+  Journal* journal_ = nullptr;
+  QString notice_;
   std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
-  std::optional<QPoint> stand_;  // where the player had the last step
+  HeldKeys heldKeys_;
+  // As the player had the last step, told by the content.
+  std::optional<QRect> stand_;
+  bool maximised_ = false;
+  QMargins frame_;  // what the system puts around a window
 };
 
 }  // namespace bogenwerker

@@ -4,11 +4,13 @@
 #include <QAbstractProxyModel>
 #include <QCompleter>
 #include <QGridLayout>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyleOptionFrame>
+#include <QToolTip>
 #include <algorithm>
 
 #include "desktop/text.h"
@@ -16,13 +18,29 @@
 namespace bogenwerker {
 namespace {
 
-// Where the model took in another text than was typed, the cursor stays where it was, seen from the end: what stands
-// behind it had gone through before.
-void showText(QLineEdit& edit, const QString& text) {
+// Where the model took in another text than was typed: what was typed goes out of the history and the other comes in,
+// so that undo leads to what stood there before. The cursor stays where it was, seen from the end: what stands behind
+// it had gone through before.
+void correct(QLineEdit& edit, const QString& text) {
   if (edit.text() == text) return;
+  const QSignalBlocker silent(edit);
   const auto behindCursor = edit.text().size() - edit.cursorPosition();
-  edit.setText(text);
+  edit.undo();
+  const QString before = edit.text();
+  const auto most = std::min(before.size(), text.size());
+  qsizetype start = 0;
+  while (start < most && before[start] == text[start]) ++start;
+  qsizetype end = 0;
+  while (end < most - start && before[before.size() - 1 - end] == text[text.size() - 1 - end]) ++end;
+  edit.setSelection(static_cast<int>(start), static_cast<int>(before.size() - start - end));
+  edit.insert(text.mid(start, text.size() - start - end));
   edit.setCursorPosition(static_cast<int>(std::max<qsizetype>(0, text.size() - behindCursor)));
+}
+
+// Whoever clicks a field to fill it wants to replace the text that only tells what belongs there, unless part of it
+// was selected by hand.
+void selectAllUnlessPart(QLineEdit& edit) {
+  if (!edit.hasSelectedText()) edit.selectAll();
 }
 
 int roomFor(int characters, const QWidget& widget) { return widget.fontMetrics().averageCharWidth() * characters; }
@@ -48,6 +66,21 @@ QVariant Texts::data(const QModelIndex& index, int role) const {
 
 QSize Caption::sizeHint() const { return QLabel::sizeHint().expandedTo({roomFor(label_.characters(), *this), 0}); }
 
+// Only rich text is broken into lines.
+void showTip(const QPoint& at, const QString& text, QWidget* over) {
+  QStringList paragraphs;
+  for (const QString& line : text.split('\n')) paragraphs += "<p>" + line.toHtmlEscaped() + "</p>";
+  QToolTip::showText(at, text.isEmpty() ? text : paragraphs.join(QString()), over);
+}
+
+QString PushButton::hint() const { return toQt(button_.hint()); }
+
+bool PushButton::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QPushButton::event(event);
+  showTip(static_cast<QHelpEvent*>(event)->globalPos(), hint(), this);
+  return true;
+}
+
 QSize PushButton::sizeHint() const {
   return QPushButton::sizeHint().expandedTo({roomFor(button_.characters(), *this), 0});
 }
@@ -56,18 +89,32 @@ QSize PushButton::sizeHint() const {
 
 TextField::TextField(TextBox& box) : box_(box) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
-    box_.type(fromQt(text));
-    sync();
-  });
+  setMaxLength(mostTypedCharacters);
+  // Assistive technology changes the text without editing it.
+  connect(this, &QLineEdit::textChanged, this, &TextField::typed);
   sync();
 }
 
 void TextField::sync() {
-  if (!box_.form().isLoaded()) return;
+  if (!box_.form().isLoaded() || typing_) return;
   setEnabled(box_.isEnabled());
-  showText(*this, toQt(box_.text()));
+  if (const QString text = toQt(box_.text()); text != this->text()) {
+    const QSignalBlocker silent(this);
+    setText(text);
+  }
   if (box_.selLength() > 0) setSelection(0, box_.selLength());
+}
+
+void TextField::typed(const QString& text) {
+  typing_ = true;
+  box_.type(fromQt(text));
+  typing_ = false;
+  correct(*this, toQt(box_.text()));
+}
+
+void TextField::mouseReleaseEvent(QMouseEvent* event) {
+  QLineEdit::mouseReleaseEvent(event);
+  if (event->button() == Qt::LeftButton && box_.holdsStartingText()) selectAllUnlessPart(*this);
 }
 
 QSize TextField::sizeHint() const {
@@ -83,44 +130,41 @@ PickBox::PickBox(ComboBox& box) : box_(box) {
   setEditable(true);
   setInsertPolicy(NoInsert);
   setCompleter(nullptr);
+  lineEdit()->setMaxLength(mostTypedCharacters);
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(box.characters());
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   setMaxVisibleItems(16);
   setModel(&entries_);
-  connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { typed(text); });
+  // The toolkit would pick the entry of the typed name once the field is left.
+  disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+  connect(lineEdit(), &QLineEdit::textEdited, this, &PickBox::typed);
+  lineEdit()->installEventFilter(this);
+  lineEdit()->setAccessibleName(toQt(box.spoken()));
   connect(this, &QComboBox::activated, this, [this](int row) { pick(row); });
   sync();
 }
 
 void PickBox::sync() {
-  if (!box_.form().isLoaded()) return;
+  if (!box_.form().isLoaded() || typing_) return;
   setEnabled(box_.isEnabled());
-  const auto& entries = box_.entries();
-  const QString edited = lineEdit()->text();
-  const int cursor = lineEdit()->cursorPosition();
-  if (entries_.rowCount() != static_cast<int>(entries.size())) entries_.show(entries);
-
-  // The current entry follows typed text, too. Otherwise the toolkit would pick the entry of that name once the field
-  // is left. Entries may share a name: the one that is current stays so.
-  const auto current = static_cast<std::size_t>(currentIndex());
-  if (currentIndex() < 0 || entries[current] != box_.text()) {
-    const auto found = std::find(entries.begin(), entries.end(), box_.text());
-    setCurrentIndex(found == entries.end() ? -1 : static_cast<int>(found - entries.begin()));
-  }
-  if (lineEdit()->text() != edited) {
-    lineEdit()->setText(edited);
-    lineEdit()->setCursorPosition(cursor);
-  }
-  showText(*lineEdit(), toQt(box_.text()));
+  if (entries_.rowCount() != static_cast<int>(box_.entries().size())) entries_.show(box_.entries());
+  const QString text = toQt(box_.text());
+  if (lineEdit()->text() == text) return;
+  setCurrentIndex(entryNow());
+  lineEdit()->setText(text);
 }
 
 void PickBox::typed(const QString& text) {
+  typing_ = true;
   box_.type(fromQt(text));
-  sync();
+  typing_ = false;
+  correct(*lineEdit(), toQt(box_.text()));
+  const QString& now = lineEdit()->text();
+  if (const int entry = entryNow(); entry >= 0) setCurrentIndex(entry);
   QCompleter& completer = completions();
-  completer.setCompletionPrefix(lineEdit()->text());
-  if (lineEdit()->text().isEmpty()) return completer.popup()->hide();
+  completer.setCompletionPrefix(now);
+  if (now.isEmpty()) return completer.popup()->hide();
   if (!completer.popup()->isVisible()) completer.popup()->setMinimumWidth(popupWidth());
   completer.complete();
 }
@@ -129,6 +173,35 @@ void PickBox::pick(int row) {
   if (row >= 0) box_.pick(static_cast<std::size_t>(row));
   sync();
   lineEdit()->selectAll();
+}
+
+// The entry of which the name stands in the field, else -1. Entries may share a name: the one that is current stays so.
+int PickBox::entryNow() const {
+  const auto& entries = box_.entries();
+  const int current = currentIndex();
+  if (current >= 0 && entries[static_cast<std::size_t>(current)] == box_.text()) return current;
+  const auto found = std::find(entries.begin(), entries.end(), box_.text());
+  return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
+}
+
+int PickBox::entryOf(const QModelIndex& completion) const {
+  return qobject_cast<QAbstractProxyModel*>(completer_->completionModel())->mapToSource(completion).row();
+}
+
+// By Return: the completion that is marked, the entry that was typed whole, the only completion; else -1.
+int PickBox::entryMeant() {
+  const bool completing = completer_ != nullptr && completer_->popup()->isVisible();
+  if (completing && completer_->popup()->currentIndex().isValid()) return entryOf(completer_->popup()->currentIndex());
+  if (const int entry = entryNow(); entry >= 0) return entry;
+  const QAbstractItemModel* shown = completing ? completer_->completionModel() : nullptr;
+  return shown != nullptr && shown->rowCount() == 1 ? entryOf(shown->index(0, 0)) : -1;
+}
+
+void PickBox::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QComboBox::keyPressEvent(event);
+  const int entry = entryMeant();
+  if (completer_ != nullptr) completer_->popup()->hide();
+  if (entry >= 0) pick(entry);
 }
 
 QCompleter& PickBox::completions() {
@@ -140,9 +213,8 @@ QCompleter& PickBox::completions() {
   completer_->setFilterMode(Qt::MatchContains);
   completer_->setCaseSensitivity(Qt::CaseInsensitive);
   completer_->setMaxVisibleItems(16);
-  connect(completer_, qOverload<const QModelIndex&>(&QCompleter::activated), this, [this](const QModelIndex& index) {
-    pick(qobject_cast<QAbstractProxyModel*>(completer_->completionModel())->mapToSource(index).row());
-  });
+  connect(completer_, qOverload<const QModelIndex&>(&QCompleter::activated), this,
+          [this](const QModelIndex& index) { pick(entryOf(index)); });
   return *completer_;
 }
 
@@ -167,12 +239,18 @@ int PickBox::popupWidth() const {
 void PickBox::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 // Whoever comes by a click means to look for an entry, not to add to the text that stands there: as with the Tab key,
-// typing replaces it. The click itself sets the cursor only after this.
+// typing replaces it.
 void PickBox::focusInEvent(QFocusEvent* event) {
   QComboBox::focusInEvent(event);
-  if (event->reason() == Qt::MouseFocusReason) {
-    QMetaObject::invokeMethod(lineEdit(), &QLineEdit::selectAll, Qt::QueuedConnection);
+  enteredByClick_ = event->reason() == Qt::MouseFocusReason;
+}
+
+bool PickBox::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == lineEdit() && event->type() == QEvent::MouseButtonRelease) {
+    const bool left = static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    if (left && (std::exchange(enteredByClick_, false) || box_.holdsStartingText())) selectAllUnlessPart(*lineEdit());
   }
+  return QComboBox::eventFilter(watched, event);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -247,7 +325,7 @@ void LineList::focusOutEvent(QFocusEvent* event) {
 
 // ---------------------------------------------------------------------------------------------------------------------
 
-void Stroke::paintEvent(QPaintEvent* /*event*/) {
+void DrawnLine::paintEvent(QPaintEvent* /*event*/) {
   const auto& grid = *static_cast<const QGridLayout*>(parentWidget()->layout());
   const Place& at = line_.place();
   const QRect first = grid.cellRect(at.row, at.column).translated(-pos());

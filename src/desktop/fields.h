@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "wizard/controls.h"
+#include "forms/controls.h"
 
 class QCompleter;
 
@@ -32,6 +32,9 @@ class Texts final : public QAbstractListModel {
   int count_ = 0;
 };
 
+// Beside the pointer or a widget, for a while. The text is plain.
+void showTip(const QPoint& at, const QString& text, QWidget* over);
+
 // A caption that keeps room for what it may come to show.
 class Caption final : public QLabel {
  public:
@@ -45,9 +48,15 @@ class Caption final : public QLabel {
 
 class PushButton final : public QPushButton {
  public:
-  PushButton(const CommandButton& button, const QString& caption) : QPushButton(caption), button_(button) {}
+  // The caption comes last: with it the toolkit asks who speaks for this button, once and for good.
+  PushButton(const CommandButton& button, const QString& caption) : button_(button) { setText(caption); }
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+  // Why a press would come to nothing; empty where it would not.
+  [[nodiscard]] QString hint() const;
+
+ protected:
+  bool event(QEvent* event) override;
 
  private:
   const CommandButton& button_;
@@ -60,12 +69,17 @@ class TextField final : public QLineEdit {
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
  private:
+  void typed(const QString& text);
   TextBox& box_;
+  bool typing_ = false;
 };
 
-// An entry is picked by mouse, arrow keys or the list of completions, and only so: neither Return nor leaving the field
-// makes a pick of a text that was merely typed.
+// An entry is picked by mouse, by arrow keys, out of the list of completions, or by Return where it is clear which one
+// is meant. Leaving the field never makes a pick of a text that was merely typed.
 class PickBox final : public QComboBox {
  public:
   explicit PickBox(ComboBox& box);
@@ -77,12 +91,19 @@ class PickBox final : public QComboBox {
  protected:
   void wheelEvent(QWheelEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   [[nodiscard]] int popupWidth() const;
+  [[nodiscard]] int entryNow() const;
+  [[nodiscard]] int entryOf(const QModelIndex& completion) const;
+  [[nodiscard]] int entryMeant();
   void typed(const QString& text);
   void pick(int row);
   ComboBox& box_;
+  bool typing_ = false;
+  bool enteredByClick_ = false;
   Texts entries_;
   QCompleter* completer_ = nullptr;
 };
@@ -110,10 +131,10 @@ class LineList final : public QListView {
   Texts lines_;
 };
 
-// A stroke between the cells of the grid that it lies in.
-class Stroke final : public QWidget {
+// The stroke of a line between the cells of the grid that it lies in.
+class DrawnLine final : public QWidget {
  public:
-  explicit Stroke(const Line& line) : line_(line) {}
+  explicit DrawnLine(const Line& line) : line_(line) {}
 
  protected:
   void paintEvent(QPaintEvent* event) override;

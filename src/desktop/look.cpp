@@ -1,10 +1,13 @@
 #include "desktop/look.h"
 
 #include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
 #include <QPainter>
 #include <QPalette>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTranslator>
 #include <algorithm>
 
 namespace bogenwerker {
@@ -14,14 +17,16 @@ constexpr double formPoints = 8.25;
 
 constexpr QColor back{64, 64, 64};
 constexpr QColor text{0, 255, 0};
-constexpr QColor field{128, 128, 128};
-constexpr QColor disabledText{150, 150, 150};
+constexpr QColor greyField{128, 128, 128};
+constexpr QColor darkField{24, 24, 24};
+constexpr QColor disabledText{165, 165, 165};
 constexpr QColor disabledField{82, 82, 82};
+constexpr QColor disabledInMenu{195, 195, 195};
 constexpr QColor outline{112, 112, 112};
 constexpr QColor selected{0, 255, 0};
 constexpr QColor selectedText{0, 0, 0};
 
-QPalette colours() {
+QPalette colours(const QColor& field) {
   QPalette palette(text, back, back.lighter(150), back.darker(150), back.darker(120), text, Qt::white, field, back);
   palette.setColor(QPalette::AlternateBase, field);
   palette.setColor(QPalette::Highlight, selected);
@@ -34,6 +39,16 @@ QPalette colours() {
   }
   palette.setColor(QPalette::Disabled, QPalette::Base, disabledField);
   palette.setColor(QPalette::Disabled, QPalette::Highlight, disabledField);
+  return palette;
+}
+
+// The style fills menus like fields, on which what is disabled could not be read.
+QPalette menuColours() {
+  QPalette palette = colours(back);
+  palette.setColor(QPalette::Disabled, QPalette::Base, back);
+  for (const auto role : {QPalette::WindowText, QPalette::Text}) {
+    palette.setColor(QPalette::Disabled, role, disabledInMenu);
+  }
   return palette;
 }
 
@@ -55,14 +70,29 @@ bool followsZoom(QStyle::PixelMetric metric) {
   }
 }
 
+// What the toolkit says by itself, in the menus of text fields: out of the program where it is built in, else as the
+// system has it installed; where it has not, that stays English.
+void speakGerman() {
+  auto* german = new QTranslator(QApplication::instance());
+  for (const QString& folder : {QStringLiteral(":/translations"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)}) {
+    if (german->load(QStringLiteral("qtbase_de"), folder)) break;
+  }
+  QApplication::installTranslator(german);
+}
+
 }  // namespace
 
 Look::Look() : QProxyStyle(QStyleFactory::create(QStringLiteral("fusion"))), systemFont_(QApplication::font()) {}
 
 Look& Look::dress() {
+  QApplication::setApplicationName(QStringLiteral("Bogenwerker"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("bogenwerker"));
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/bogenwerker.png")));
+  speakGerman();
   auto* look = new Look;
   QApplication::setStyle(look);
-  QApplication::setPalette(colours());
+  QApplication::setPalette(colours(greyField));
+  for (const char* above : {"QMenu", "QTipLabel"}) QApplication::setPalette(menuColours(), above);
   QApplication::setFont(look->formFont());
   return *look;
 }
@@ -70,6 +100,12 @@ Look& Look::dress() {
 void Look::setZoom(int percent) {
   zoom_ = std::clamp(percent, leastZoom, mostZoom);
   QApplication::setFont(formFont());
+}
+
+void Look::setHighContrast(bool on) {
+  highContrast_ = on;
+  QApplication::setPalette(colours(on ? darkField : greyField));
+  for (const char* above : {"QMenu", "QTipLabel"}) QApplication::setPalette(menuColours(), above);
 }
 
 QFont Look::formFont() const {
@@ -158,7 +194,7 @@ void Look::drawOption(const QStyleOption& option, QPainter& painter) const {
   const QRectF ring = QRectF(option.rect).adjusted(line, line, -line, -line);
   const QColor colour = option.palette.color(QPalette::WindowText);
   painter.setPen(QPen(colour, line));
-  painter.setBrush((option.state & State_Sunken) != 0 ? field : back.darker(140));
+  painter.setBrush((option.state & State_Sunken) != 0 ? option.palette.color(QPalette::Base) : back.darker(140));
   painter.drawEllipse(ring);
   if ((option.state & State_On) == 0) return;
   painter.setPen(Qt::NoPen);

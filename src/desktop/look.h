@@ -12,12 +12,16 @@ class Look final : public QProxyStyle {
   static constexpr int leastZoom = 75;
   static constexpr int mostZoom = 250;
 
-  // Makes this the style of the application, which must stand already and then owns it.
+  // Makes this the style of the application, which must stand already and then owns it, and gives the application its
+  // name, icon and language.
   static Look& dress();
 
   // In percent, leastZoom to mostZoom; beyond that the nearest of the two. Lasts for this run.
   void setZoom(int percent);
   [[nodiscard]] int zoom() const { return zoom_; }
+  // Dark fields instead of grey ones. Lasts for this run.
+  void setHighContrast(bool on);
+  [[nodiscard]] bool isHighContrast() const { return highContrast_; }
 
   [[nodiscard]] QFont formFont() const;
   // The toolkit's own font.
@@ -42,6 +46,7 @@ class Look final : public QProxyStyle {
   void drawOption(const QStyleOption& option, QPainter& painter) const;
   QFont systemFont_;
   int zoom_ = 100;
+  bool highContrast_ = false;
 };
 
 }  // namespace bogenwerker

@@ -1,37 +1,34 @@
 // The player's program.
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QLocale>
-#include <QTranslator>
+#include <QDesktopServices>
+#include <QDir>
+#include <QUrl>
+#include <iostream>
 
-#include "desktop/desktop.h"
-#include "equipment/wuerfelomat.h"
-#include "sequence/wizard.h"
+#include "desktop/program.h"
+#include "desktop/text.h"
+#include "wizard/about.h"
 
 int main(int argc, char** argv) {
   using namespace bogenwerker;
+  if (const auto answer = answerTo(std::span(argv, static_cast<std::size_t>(argc)), "bogenwerker",
+                                   "baut in sechs Schritten einen Charakter und schreibt sein Datenblatt in den\n"
+                                   "aktuellen Ordner, in dem die Kataloge und die Vorlage liegen müssen.")) {
+    std::cout << *answer;
+    return 0;
+  }
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);  // a step hides before the next one shows
-  QGuiApplication::setDesktopFileName(QStringLiteral("bogenwerker"));
-  // What the toolkit says by itself, in the menus of text fields; where it is not installed, that stays English.
-  QTranslator german;
-  if (german.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QApplication::installTranslator(&german);
-  }
 
-  Files files;
-  const QLocale locale = QLocale::system();
-  const bool groups = locale.language() != QLocale::C;  // there a comma is a slip, not a thousand
-  Wizard wizard({.files = files,
-                 .numbers = {.decimalSeparator = locale.decimalPoint().toStdString(),
-                             .groupSeparator = groups ? locale.groupSeparator().toStdString() : std::string()},
-                 .showMessage = {},
-                 .throwDie = wuerfeln});
-  Desktop desktop(Look::dress(), [] { QApplication::exit(); });
-  wizard.runtime().environment().showMessage = [&desktop](Message kind, std::string_view text) {
-    desktop.showMessage(kind, text);
+  const auto openSheet = [](std::string_view file) {
+    const QString path = QDir::current().absoluteFilePath(toQt(file));
+    std::cout << "Das Datenblatt liegt in\n  " << fromQt(path) << std::endl;
+    QDesktopServices::openUrl(QUrl::fromLocalFile(path));  // where that fails, nothing happens
   };
-  if (!wizard.start()) return 1;
-  desktop.show(wizard.runtime());
-  return QApplication::exec();
+  Program program(Look::dress(), openSheet, [] { QApplication::exit(); });
+  switch (program.begin()) {
+    case Program::Beginning::shown: return QApplication::exec();
+    case Program::Beginning::unwanted: return 0;
+    case Program::Beginning::impossible: return 1;
+  }
 }

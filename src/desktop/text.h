@@ -11,8 +11,7 @@ inline QString toQt(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-// In composed form, since pasted text often is not.
-inline std::string fromQt(const QString& text) { return text.normalized(QString::NormalizationForm_C).toStdString(); }
+inline std::string fromQt(const QString& text) { return text.toStdString(); }
 
 // For captions where the toolkit would take an ampersand for the mark of a shortcut.
 inline QString toQtCaption(std::string_view caption) { return toQt(caption).replace('&', QStringLiteral("&&")); }

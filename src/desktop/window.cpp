@@ -1,12 +1,13 @@
 #include "desktop/window.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScreen>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "desktop/fields.h"
@@ -44,142 +45,95 @@ QString onLines(QString caption, int lines) {
   return caption;
 }
 
-// One make a kind.
+void fitGrid(QWidget& widget, int margin, const Look& look) {
+  const int around = look.scaled(margin);
+  widget.layout()->setContentsMargins(around, around, around, around);
+  widget.layout()->setSpacing(look.scaled(spacing));
+}
+
+// One make a kind: the widget, and with it what it takes later on.
 class Make final : public ControlVisitor {
  public:
-  explicit Make(Control& control) {
-    control.accept(*this);
-    widget_->setObjectName(toQt(control.name()));
+  static ShownControl shown(Control& control) {
+    Make make;
+    control.accept(make);
+    make.made_.widget->setObjectName(toQt(control.name()));
+    make.made_.sync();
+    return make.made_;
   }
-  [[nodiscard]] QWidget* widget() const { return widget_; }
-  // What the control is as a container, if it is one.
-  [[nodiscard]] const Container* container() const { return container_; }
 
  private:
   void visit(Frame& frame) override {
-    widget_ = new QGroupBox(toQtCaption(frame.caption()));
-    container_ = &frame;
-    nameFor(frame, frame.caption());
+    auto* group = new QGroupBox(toQtCaption(frame.caption()));
+    nameFor(*group, frame, frame.caption());
+    made_ = {group, [=, &frame] { group->setEnabled(frame.isEnabled()); },
+             [=, &frame](const Look& look) { fitGrid(*group, frame.margin(), look); }, &frame};
   }
   void visit(PictureBox& box) override {
-    container_ = &box;
     auto* panel = new QFrame;
     panel->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-    widget_ = panel;
+    made_ = {panel, [=, &box] { panel->setEnabled(box.isEnabled()); },
+             [=](const Look& look) { fitGrid(*panel, 0, look); }, &box};
   }
   void visit(Line& line) override {
-    widget_ = new Stroke(line);
-    widget_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto* drawn = new DrawnLine(line);
+    drawn->setAttribute(Qt::WA_TransparentForMouseEvents);
+    made_ = {drawn, [] {}, [=](const Look& look) { drawn->setMinimumSize(look.scaled(14), look.scaled(4)); }};
   }
   void visit(Label& label) override {
     auto* text = new Caption(label);
     text->setTextFormat(Qt::PlainText);
     text->setAlignment((label.isCentred() ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter);
-    widget_ = text;
+    const auto sync = [=, &label] {
+      text->setEnabled(label.isEnabled());
+      const QString caption = toQt(label.caption());
+      if (!label.spoken().empty()) text->setAccessibleName(toQt(label.spoken()) + QStringLiteral(": ") + caption);
+      text->setText(caption);
+    };
+    made_ = {text, sync, [=, &label](const Look& look) {
+               text->setFont(look.labelFont(text->parentWidget()->font(), label.size(), label.isBold()));
+             }};
   }
   void visit(CommandButton& button) override {
     auto* push = new PushButton(button, onLines(toQtCaption(button.caption()), button.lines()));
     push->setAutoDefault(true);  // Return presses it while it has the focus
     push->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
     QObject::connect(push, &QPushButton::clicked, push, [&button] { button.press(); });
-    widget_ = push;
-    nameFor(button, button.caption());
+    nameFor(*push, button, button.caption());
+    made_ = {push, [=, &button] { push->setEnabled(button.isEnabled()); }};
   }
   void visit(OptionButton& option) override {
     auto* radio = new QRadioButton(toQtCaption(option.caption()));
-    QObject::connect(radio, &QRadioButton::clicked, radio, [&option] { option.choose(); });
-    widget_ = radio;
-    nameFor(option, option.caption());
+    // Not every way to switch one on is a click.
+    QObject::connect(radio, &QRadioButton::toggled, radio, [&option](bool on) {
+      if (on) option.choose();
+    });
+    nameFor(*radio, option, option.caption());
+    made_ = {radio, [=, &option] {
+               radio->setEnabled(option.isEnabled());
+               if (radio->isChecked() == option.value()) return;
+               const QSignalBlocker silent(radio);
+               // One of an exclusive group cannot be switched off.
+               radio->setAutoExclusive(option.value());
+               radio->setChecked(option.value());
+               radio->setAutoExclusive(true);
+             }};
   }
-  void visit(TextBox& box) override {
-    widget_ = new TextField(box);
-    nameFor(box, {});
-  }
-  void visit(ComboBox& box) override {
-    widget_ = new PickBox(box);
-    nameFor(box, {});
-  }
-  void visit(ListBox& box) override {
-    widget_ = new LineList(box);
-    nameFor(box, {});
-  }
+  void visit(TextBox& box) override { field(new TextField(box), box); }
+  void visit(ComboBox& box) override { field(new PickBox(box), box); }
+  void visit(ListBox& box) override { field(new LineList(box), box); }
 
-  void nameFor(const Control& control, std::string_view caption) {
-    widget_->setAccessibleName(toQt(control.spoken().empty() ? caption : control.spoken()));
-  }
-
-  QWidget* widget_ = nullptr;
-  const Container* container_ = nullptr;
-};
-
-// One sync a kind: the widget as the control is now.
-class Sync final : public ControlVisitor {
- public:
-  static void widget(QWidget& widget, Control& control) {
-    Sync sync(widget);
-    control.accept(sync);
+  template <class Field>
+  void field(Field* widget, const Control& control) {
+    nameFor(*widget, control, {});
+    made_ = {widget, [=] { widget->sync(); }};
   }
 
- private:
-  explicit Sync(QWidget& widget) : widget_(widget) {}
-
-  void visit(Frame& frame) override { widget_.setEnabled(frame.isEnabled()); }
-  void visit(PictureBox& box) override { widget_.setEnabled(box.isEnabled()); }
-  void visit(Line& /*line*/) override {}
-  void visit(Label& label) override {
-    widget_.setEnabled(label.isEnabled());
-    const QString caption = toQt(label.caption());
-    if (!label.spoken().empty()) widget_.setAccessibleName(toQt(label.spoken()) + QStringLiteral(": ") + caption);
-    static_cast<QLabel&>(widget_).setText(caption);
-  }
-  void visit(CommandButton& button) override { widget_.setEnabled(button.isEnabled()); }
-  void visit(OptionButton& option) override {
-    widget_.setEnabled(option.isEnabled());
-    auto& radio = static_cast<QRadioButton&>(widget_);
-    if (radio.isChecked() == option.value()) return;
-    // One of an exclusive group cannot be switched off.
-    radio.setAutoExclusive(option.value());
-    radio.setChecked(option.value());
-    radio.setAutoExclusive(true);
-  }
-  void visit(TextBox& /*box*/) override { static_cast<TextField&>(widget_).sync(); }
-  void visit(ComboBox& /*box*/) override { static_cast<PickBox&>(widget_).sync(); }
-  void visit(ListBox& /*box*/) override { static_cast<LineList&>(widget_).sync(); }
-
-  QWidget& widget_;
-};
-
-// One fit a kind: what in a widget follows the zoom and is not the toolkit's to know.
-class Fit final : public ControlVisitor {
- public:
-  static void widget(QWidget& widget, Control& control, const Look& look) {
-    Fit fit(widget, look);
-    control.accept(fit);
+  static void nameFor(QWidget& widget, const Control& control, std::string_view caption) {
+    widget.setAccessibleName(toQt(control.spoken().empty() ? caption : control.spoken()));
   }
 
- private:
-  Fit(QWidget& widget, const Look& look) : widget_(widget), look_(look) {}
-
-  void visit(Frame& frame) override { grid(frame.margin()); }
-  void visit(PictureBox& /*box*/) override { grid(0); }
-  void visit(Line& /*line*/) override { widget_.setMinimumSize(look_.scaled(14), look_.scaled(4)); }
-  void visit(Label& label) override {
-    widget_.setFont(look_.labelFont(widget_.parentWidget()->font(), label.size(), label.isBold()));
-  }
-  void visit(CommandButton& /*button*/) override { widget_.updateGeometry(); }
-  void visit(OptionButton& /*option*/) override {}
-  void visit(TextBox& /*box*/) override { widget_.updateGeometry(); }
-  void visit(ComboBox& /*box*/) override { widget_.updateGeometry(); }
-  void visit(ListBox& /*box*/) override { widget_.updateGeometry(); }
-
-  void grid(int margin) {
-    const int around = look_.scaled(margin);
-    widget_.layout()->setContentsMargins(around, around, around, around);
-    widget_.layout()->setSpacing(look_.scaled(spacing));
-  }
-
-  QWidget& widget_;
-  const Look& look_;
+  ShownControl made_;
 };
 
 QGridLayout* gridFor(QWidget* widget, const Container& container) {
@@ -202,76 +156,141 @@ FormWindow::FormWindow(Form& form, const Look& look) : form_(form), look_(look) 
   setFocusPolicy(Qt::NoFocus);
   setWidgetResizable(true);
 
-  auto* content = new QWidget;
-  QHash<const Container*, QGridLayout*> grids{{&form, gridFor(content, form)}};
+  QHash<const Container*, QGridLayout*> grids{{&form, gridFor(content_, form)}};
   for (Control* control : form.controls()) {
-    const Make made(*control);
-    QWidget* widget = made.widget();
+    const ShownControl shown = Make::shown(*control);
+    QWidget* widget = shown.widget;
     const Place& at = control->place();
     grids.value(&control->container())
         ->addWidget(widget, at.row, at.column, at.rows, at.columns, alignmentOf(at.align));
-    if (const Container* container = made.container()) {
-      grids.insert(container, gridFor(widget, *container));
+    if (shown.container != nullptr) {
+      grids.insert(shown.container, gridFor(widget, *shown.container));
       widget->lower();  // whatever shares its place lies over it
     }
-    widgets_.insert(control, widget);
-    sync(*control);
+    shown_.insert(control, shown);
   }
-  setWidget(content);
+  auto* page = new QWidget;
+  auto* around = new QGridLayout(page);
+  around->setContentsMargins(0, 0, 0, 0);
+  around->addWidget(content_);
+  setWidget(page);
   chainTabs();
+  // A click must not move away what it is meant for.
+  connect(qApp, &QApplication::focusChanged, this, [this] {
+    if (QGuiApplication::mouseButtons() == Qt::NoButton) showFocus();
+  });
 }
 
-void FormWindow::sync(Control& control) { Sync::widget(*widgets_.value(&control), control); }
+// What has the focus loses it on the way out, and nobody is left to show where it went.
+FormWindow::~FormWindow() { qApp->disconnect(this); }
 
-void FormWindow::fit() {
+void FormWindow::sync(const Control& control) { shown_.find(&control)->sync(); }
+
+QSize FormWindow::fit(QSize room) {
+  room_ = room;
   setFont(form_.isDialog() ? look_.dialogFont() : look_.formFont());
-  const int around = look_.scaled(formMargin);
-  widget()->layout()->setContentsMargins(around, around, around, around);
-  widget()->layout()->setSpacing(look_.scaled(spacing));
-  for (Control* control : form_.controls()) Fit::widget(*widgets_.value(control), *control, look_);
+  fitGrid(*content_, formMargin, look_);
+  for (const ShownControl& shown : std::as_const(shown_)) {
+    if (shown.fit) shown.fit(look_);
+    shown.widget->updateGeometry();
+  }
   // Rows of one height wherever they lie, so that they align from frame to frame.
   const int line = fontMetrics().height() + look_.scaled(12);
   for (Control* control : form_.controls()) {
-    auto* grid = static_cast<QGridLayout*>(widgets_.value(control)->parentWidget()->layout());
+    auto* grid = static_cast<QGridLayout*>(shown_.value(control).widget->parentWidget()->layout());
     const Place& at = control->place();
     for (int row = at.row; row < at.row + at.rows; ++row) grid->setRowMinimumHeight(row, line);
   }
+  // A layout knows its size once those within it know theirs, and those come later in the table.
+  const auto& controls = form_.controls();
+  for (auto control = controls.rbegin(); control != controls.rend(); ++control) {
+    if (QLayout* layout = shown_.value(*control).widget->layout()) layout->activate();
+  }
   limitSize();
-  resize(widget()->sizeHint().boundedTo(screen()->availableGeometry().size()));
+  // A pixel to spare: fractional scale factors round, and one too few would cost two scroll bars.
+  return inRoom(widget()->sizeHint() + QSize(1, 1));
 }
 
+// Where nothing can grow, more room would only tear the rows apart: it stays around the content, whatever size a window
+// manager gives the window.
 void FormWindow::limitSize() {
-  QLayout& layout = *widget()->layout();
-  layout.activate();
-  const QSize wanted = widget()->sizeHint();
-  const QSize room = screen()->availableGeometry().size();
-  setMinimumSize(layout.minimumSize().boundedTo(room));
-  // Where nothing can grow, more room would only tear the rows apart.
-  const Qt::Orientations grows = layout.expandingDirections();
-  setMaximumSize((grows & Qt::Horizontal) != 0 ? QWIDGETSIZE_MAX : wanted.width(),
-                 (grows & Qt::Vertical) != 0 ? QWIDGETSIZE_MAX : wanted.height());
+  QLayout& content = *content_->layout();
+  content.activate();
+  const Qt::Orientations grows = content.expandingDirections();
+  QLayout& page = *widget()->layout();
+  const Qt::Alignment alignment = ((grows & Qt::Horizontal) != 0 ? Qt::Alignment() : Qt::AlignHCenter) |
+                                  ((grows & Qt::Vertical) != 0 ? Qt::Alignment() : Qt::AlignTop);
+  // Set anew, the same one too asks for another layout, which would come back here without end.
+  if (page.itemAt(0)->alignment() != alignment) page.setAlignment(content_, alignment);
+  page.activate();
+  setMinimumSize(inRoom(page.minimumSize()));
+}
+
+// A scroll bar along one side must not make the other side need one.
+QSize FormWindow::inRoom(QSize content) const {
+  if (content.height() > room_.height()) content.rwidth() += verticalScrollBar()->sizeHint().width();
+  if (content.width() > room_.width()) content.rheight() += horizontalScrollBar()->sizeHint().height();
+  return content.boundedTo(room_);
+}
+
+void FormWindow::showFocus() {
+  QWidget* focus = focusWidget();
+  const int around = look_.scaled(formMargin);
+  if (focus != nullptr && widget()->isAncestorOf(focus)) ensureWidgetVisible(focus, around, around);
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  showFocus();
 }
 
 void FormWindow::focusFirst() {
   for (QWidget* widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {
-    if ((widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isEnabled()) return widget->setFocus(Qt::TabFocusReason);
+    if ((widget->focusPolicy() & Qt::TabFocus) == 0 || !widget->isEnabled()) continue;
+    widget->setFocus(Qt::TabFocusReason);
+    if (auto* box = qobject_cast<QComboBox*>(widget)) box->lineEdit()->selectAll();  // it may not be active yet
+    return;
   }
+}
+
+void FormWindow::showHints() {
+  QWidget* focus = focusWidget();
+  const auto* pressed = dynamic_cast<PushButton*>(focus);
+  QString text = pressed == nullptr ? QString() : pressed->hint();
+  QStringList grey;
+  for (const Control* control : form_.controls()) {
+    const auto* button = dynamic_cast<PushButton*>(shown_.value(control).widget);
+    if (button == nullptr || button->isEnabled() || button->hint().isEmpty()) continue;
+    grey += button->accessibleName() + QStringLiteral(": ") + button->hint();
+  }
+  if (text.isEmpty()) text = grey.join('\n');
+  QWidget* over = focus == nullptr ? this : focus;
+  showTip(over->mapToGlobal(over->rect().bottomLeft()), text, over);
+}
+
+void FormWindow::setNotice(const QString& text) {
+  setStatusTip(text);
+  auto* line = new QLabel(text);
+  line->setTextFormat(Qt::PlainText);
+  line->setWordWrap(true);
+  static_cast<QGridLayout*>(widget()->layout())->addWidget(line, 1, 0);
 }
 
 // A caption that grows takes the window along.
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
   const bool done = QScrollArea::eventFilter(watched, event);
-  if (watched == widget() && event->type() == QEvent::LayoutRequest) limitSize();
+  if (watched == widget() && event->type() == QEvent::LayoutRequest && room_.isValid()) limitSize();
   return done;
 }
 
 void FormWindow::chainTabs() {
   std::vector<const Control*> stops;
   for (const Control* control : form_.controls()) {
-    if (control->tab() && widgets_.value(control)->focusPolicy() != Qt::NoFocus) stops.push_back(control);
+    if (control->tab() && shown_.value(control).widget->focusPolicy() != Qt::NoFocus) stops.push_back(control);
   }
   std::sort(stops.begin(), stops.end(), [](auto* a, auto* b) { return *a->tab() < *b->tab(); });
-  for (std::size_t i = 1; i < stops.size(); ++i) setTabOrder(widgets_.value(stops[i - 1]), widgets_.value(stops[i]));
+  for (std::size_t i = 1; i < stops.size(); ++i)
+    setTabOrder(shown_.value(stops[i - 1]).widget, shown_.value(stops[i]).widget);
 }
 
 }  // namespace bogenwerker

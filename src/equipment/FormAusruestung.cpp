@@ -1,16 +1,16 @@
 #include "equipment/FormAusruestung.h"
 
+#include <algorithm>
+
 #include "catalogues/catalogues.h"
 #include "finish/FormFeinschliff.h"
 #include "finish/FormNamenGeben.h"
-#include "wizard/records.h"
+#include "outside/records.h"
+#include "values/text.h"
 
 namespace bogenwerker {
 namespace {
 
-constexpr Currency priceOfSpellPoint = 25000;
-constexpr Single startEssenz = 6.0F;
-constexpr Single startBioIndex = 9.0F;
 // Step 6 has room for 1000 lines, and the last one is the start capital.
 constexpr int mostPurchases = 999;
 
@@ -22,12 +22,27 @@ void forEachSlotNamed(const Names& names, Integer zaehler, const std::string& te
   }
 }
 
+// "Es fehlt 1 Spruchpunkt.", "Es fehlen 7.500 Y."
+std::string missing(const std::string& amount, std::string_view unit, std::string_view endingOfMany = "") {
+  const bool one = amount == "1";
+  return (one ? "Es fehlt " : "Es fehlen ") + amount + std::string(unit) + std::string(one ? "" : endingOfMany) + ".";
+}
+
+// Hundredths are enough for a player, except where nothing would be left of the amount.
+Single readable(Single amount) {
+  const Single hundredths = roundToHundredths(amount);
+  return hundredths > 0 ? hundredths : amount;
+}
+
 }  // namespace
 
-FormAusrüstung::FormAusrüstung(FormsRuntime& runtime, FormFeinschliff& feinschliff, FormNamenGeben& namenGeben)
+FormAusrüstung::FormAusrüstung(FormsRuntime& runtime, const Environment& environment, FormFeinschliff& feinschliff,
+                               FormNamenGeben& namenGeben)
     : FormWith(runtime, "formAusrüstung",
                {.caption = "Ausrüstung - Schritt 5",
+                .help = "schritt5",
                 .stretch = {.rows = {0, 0, 0, 0, 0, 0, 0, 0, 1, 0}, .columns = {3, 0, 1, 1, 1}}}),
+      environment_(environment),
       formFeinschliff(feinschliff),
       formNamenGeben(namenGeben) {}
 
@@ -36,7 +51,7 @@ void FormAusrüstung::Form_Load() {
   ladeLebensstil();
   ladeConnection();
 
-  const std::string file = environment().files.read("Prioritäten.txt");
+  const std::string file = environment_.files.read("Prioritäten.txt");
   RecordReader("Prioritäten.txt", file).read(Rasse, Magie, Ressourcen);
   ZeigeRessourcen();
 
@@ -59,7 +74,7 @@ void FormAusrüstung::Form_Load() {
 
 template <class Row, class Names, class Store>
 void FormAusrüstung::lade(std::string_view file, ComboBox& box, Integer& zaehler, Names& names, Store store) {
-  forEachRow<Row>(environment().files, file, Names::mostEntries, [&](const Row& row) {
+  forEachRow<Row>(environment_.files, file, Names::mostEntries, [&](const Row& row) {
     names[zaehler] = row.name;
     store(zaehler, row);
     box.addItem(row.name);
@@ -114,10 +129,10 @@ void FormAusrüstung::richteMagieEin() {
   }
   if (Magie == "Vollzauberer") Spruchpunkte = 25;
   if (Magie == "Adept") {
-    Kraftpunkte = 6.0F;
+    Kraftpunkte = startKraftpunkte;
     cmdAddSpruchPunkt.setEnabled(false);
   }
-  if (Magie == "Aspekt") Spruchpunkte = 35;
+  if (Magie == "Aspekt") Spruchpunkte = mostSpruchpunkte;
   ZeigeSpruchpunkte();
   ZeigeKraftpunkte();
 }
@@ -130,16 +145,16 @@ void FormAusrüstung::cmbMagic_Click() { cmdAddMagicStuff.setEnabled(true); }
 void FormAusrüstung::cmbCyberware_Click() {
   cmdAddCyberware.setEnabled(true);
   forEachSlotNamed(kataloge.CyberName, kataloge.zaehlerCyberware, cmbCyberware.text(), [this](Integer slot) {
-    lblCyberEssenz.setCaption(textOf(kataloge.CyberEssenz[slot], environment().numbers));
-    lblCyberkosten.setCaption(textOf(kataloge.CyberKosten[slot], environment().numbers));
+    lblCyberEssenz.setCaption(textOf(kataloge.CyberEssenz[slot], environment_.numbers));
+    lblCyberkosten.setCaption(textOf(kataloge.CyberKosten[slot], environment_.numbers));
   });
 }
 
 void FormAusrüstung::cmbBioware_Click() {
   cmdAddBioware.setEnabled(true);
   forEachSlotNamed(kataloge.BioName, kataloge.zaehlerBioware, cmbBioware.text(), [this](Integer slot) {
-    lblBiowareIndex.setCaption(textOf(kataloge.BioIndexKosten[slot], environment().numbers));
-    lblBiowareKosten.setCaption(textOf(kataloge.BioKosten[slot], environment().numbers));
+    lblBiowareIndex.setCaption(textOf(kataloge.BioIndexKosten[slot], environment_.numbers));
+    lblBiowareKosten.setCaption(textOf(kataloge.BioKosten[slot], environment_.numbers));
   });
 }
 
@@ -160,7 +175,7 @@ void FormAusrüstung::cmdAddDeckerWare_Click() {
 template <class Names, class Costs>
 void FormAusrüstung::buyForMoney(const ComboBox& box, const Names& names, const Costs& costs, Integer zaehler) {
   forEachSlotNamed(names, zaehler, box.text(), [&](Integer slot) {
-    if (!canPay(costs[slot]) || !hasRoom()) return;
+    if (!whyNotBuy(costs[slot]).empty()) return;
     Ressourcen = Ressourcen - costs[slot];
     lstAusrüstung.addItem(box.text());
   });
@@ -168,12 +183,9 @@ void FormAusrüstung::buyForMoney(const ComboBox& box, const Names& names, const
 }
 
 void FormAusrüstung::cmdAddEquipment_Click() {
-  if (!txtEquipment.text().empty() && !txtEquipmentKosten.text().empty()) {
-    const std::optional<Currency> kosten = currencyOf(txtEquipmentKosten.text(), environment().numbers);
-    if (kosten && canPay(*kosten) && hasRoom()) {
-      lstAusrüstung.addItem(txtEquipment.text());
-      Ressourcen = Ressourcen - *kosten;
-    }
+  if (whyNotAddEquipment().empty()) {
+    lstAusrüstung.addItem(txtEquipment.text());
+    Ressourcen = Ressourcen - *currencyOf(txtEquipmentKosten.text(), environment_.numbers);
   }
   ZeigeRessourcen();
 }
@@ -181,13 +193,10 @@ void FormAusrüstung::cmdAddEquipment_Click() {
 // Essenz that goes takes as much of the Bio-Index with it, untested.
 void FormAusrüstung::cmdAddCyberware_Click() {
   forEachSlotNamed(kataloge.CyberName, kataloge.zaehlerCyberware, cmbCyberware.text(), [this](Integer slot) {
-    const Currency kosten = kataloge.CyberKosten[slot];
-    const Single essenz = kataloge.CyberEssenz[slot];
-    if (!canPay(kosten) || !hasRoom()) return;
-    if (!(Single(Essenz - essenz) > 0)) return;
-    Ressourcen = Ressourcen - kosten;
-    Essenz = Essenz - essenz;
-    BioIndex = BioIndex - essenz;
+    if (!whyNotCyberware(slot).empty()) return;
+    Ressourcen = Ressourcen - kataloge.CyberKosten[slot];
+    Essenz = Essenz - kataloge.CyberEssenz[slot];
+    BioIndex = BioIndex - kataloge.CyberEssenz[slot];
     lstAusrüstung.addItem(cmbCyberware.text());
   });
   ZeigeRessourcen();
@@ -196,12 +205,9 @@ void FormAusrüstung::cmdAddCyberware_Click() {
 
 void FormAusrüstung::cmdAddBioware_Click() {
   forEachSlotNamed(kataloge.BioName, kataloge.zaehlerBioware, cmbBioware.text(), [this](Integer slot) {
-    const Currency kosten = kataloge.BioKosten[slot];
-    const Single index = kataloge.BioIndexKosten[slot];
-    if (!canPay(kosten) || !hasRoom()) return;
-    if (!(Single(BioIndex - index) > 0)) return;
-    Ressourcen = Ressourcen - kosten;
-    BioIndex = BioIndex - index;
+    if (!whyNotBioware(slot).empty()) return;
+    Ressourcen = Ressourcen - kataloge.BioKosten[slot];
+    BioIndex = BioIndex - kataloge.BioIndexKosten[slot];
     lstAusrüstung.addItem(cmbBioware.text());
   });
   ZeigeRessourcen();
@@ -210,15 +216,10 @@ void FormAusrüstung::cmdAddBioware_Click() {
 
 void FormAusrüstung::cmdAddMagicStuff_Click() {
   forEachSlotNamed(kataloge.MagicName, kataloge.zaehlerMagic, cmbMagic.text(), [this](Integer slot) {
-    const Currency kosten = kataloge.MagicKosten[slot];
-    const Integer spruchpunkte = kataloge.MagicSpruchpunkte[slot];
-    const Single kraftpunkte = kataloge.MagicKraftpunkte[slot];
-    if (!canPay(kosten) || !hasRoom()) return;
-    if (Spruchpunkte - spruchpunkte < 0) return;
-    if (Single(Kraftpunkte - kraftpunkte) < 0) return;
-    Ressourcen = Ressourcen - kosten;
-    Spruchpunkte -= spruchpunkte;
-    Kraftpunkte = Kraftpunkte - kraftpunkte;
+    if (!whyNotMagic(slot).empty()) return;
+    Ressourcen = Ressourcen - kataloge.MagicKosten[slot];
+    Spruchpunkte -= kataloge.MagicSpruchpunkte[slot];
+    Kraftpunkte = Kraftpunkte - kataloge.MagicKraftpunkte[slot];
     lstAusrüstung.addItem(cmbMagic.text());
   });
   ZeigeRessourcen();
@@ -227,7 +228,7 @@ void FormAusrüstung::cmdAddMagicStuff_Click() {
 }
 
 void FormAusrüstung::cmdAddSpruchPunkt_Click() {
-  if (canPay(priceOfSpellPoint)) {
+  if (whyNotAddSpruchPunkt().empty()) {
     Spruchpunkte += 1;
     Ressourcen = Ressourcen - priceOfSpellPoint;
   }
@@ -239,9 +240,9 @@ void FormAusrüstung::cmdGoAhead_Click() {
   Currency Kapital = Ressourcen / 10;
   Ressourcen = 0;
   Kapital = Kapital + Currency(wirfWurfsumme() * 100);
-  lstAusrüstung.addItem("Startkapital: " + textOf(Kapital, environment().numbers) + " Nuyen");
+  lstAusrüstung.addItem("Startkapital: " + textOf(Kapital, environment_.numbers) + " Nuyen");
 
-  Files& files = environment().files;
+  Files& files = environment_.files;
   RecordWriter purchases(files, "Ausrüstung.txt");
   for (const std::string& line : lstAusrüstung.lines()) purchases.write(line);
   purchases.close();
@@ -259,25 +260,117 @@ void FormAusrüstung::cmdGoAhead_Click() {
 Integer FormAusrüstung::wirfWurfsumme() {
   if (!geworfen) {
     Integer Wurfsumme = 0;
-    for (int i = 0; i < 3; ++i) Wurfsumme += environment().throwDie();
+    for (int i = 0; i < 3; ++i) Wurfsumme += environment_.throwDie();
     geworfen = Wurfsumme;
   }
   return *geworfen;
 }
 
+// A name that stands twice buys each of its rows that can be paid.
+template <class Names, class WhyNot>
+std::string FormAusrüstung::whyNone(const CommandButton& button, const ComboBox& box, const Names& names,
+                                    Integer zaehler, WhyNot whyNot) const {
+  if (!button.isEnabled()) return "Wählen Sie erst einen Eintrag der Liste.";
+  std::vector<std::string> reasons;
+  forEachSlotNamed(names, zaehler, box.text(), [&](Integer slot) { reasons.push_back(whyNot(slot)); });
+  if (reasons.empty()) return quoted(box.text()) + " steht nicht in der Liste.";
+  return std::find(reasons.begin(), reasons.end(), "") == reasons.end() ? reasons.front() : "";
+}
+
+std::string FormAusrüstung::whyNotAddLebensstil() const {
+  return whyNone(cmdAddLebensstil, cmbLebensstil, kataloge.LebensstilName, kataloge.zaehlerLebensstil,
+                 [this](Integer slot) { return whyNotBuy(kataloge.LebensstilKosten[slot]); });
+}
+
+std::string FormAusrüstung::whyNotAddConnection() const {
+  return whyNone(cmdAddConnection, cmbConnection, kataloge.ConnectionName, kataloge.zaehlerConnection,
+                 [this](Integer slot) { return whyNotBuy(kataloge.ConnectionKosten[slot]); });
+}
+
+std::string FormAusrüstung::whyNotAddDeckerWare() const {
+  return whyNone(cmdAddDeckerWare, cmbCyberdecks, kataloge.DeckName, kataloge.zaehlerCyberdecks,
+                 [this](Integer slot) { return whyNotBuy(kataloge.DeckKosten[slot]); });
+}
+
+std::string FormAusrüstung::whyNotAddCyberware() const {
+  return whyNone(cmdAddCyberware, cmbCyberware, kataloge.CyberName, kataloge.zaehlerCyberware,
+                 [this](Integer slot) { return whyNotCyberware(slot); });
+}
+
+std::string FormAusrüstung::whyNotAddBioware() const {
+  return whyNone(cmdAddBioware, cmbBioware, kataloge.BioName, kataloge.zaehlerBioware,
+                 [this](Integer slot) { return whyNotBioware(slot); });
+}
+
+std::string FormAusrüstung::whyNotAddMagicStuff() const {
+  if (!frmMagicStuff.isEnabled()) return "Dieser Charakter wirkt keine Magie.";
+  return whyNone(cmdAddMagicStuff, cmbMagic, kataloge.MagicName, kataloge.zaehlerMagic,
+                 [this](Integer slot) { return whyNotMagic(slot); });
+}
+
+std::string FormAusrüstung::whyNotAddSpruchPunkt() const {
+  if (!cmdAddSpruchPunkt.isEnabled()) return "Dieser Charakter wirkt keine Sprüche.";
+  return whyNotPay(priceOfSpellPoint);
+}
+
+std::string FormAusrüstung::whyNotAddEquipment() const {
+  if (txtEquipment.text().empty()) return "Es fehlt noch die Beschreibung.";
+  if (txtEquipmentKosten.text().empty()) return "Es fehlen noch die Kosten.";
+  const std::optional<Currency> kosten = currencyOf(txtEquipmentKosten.text(), environment_.numbers);
+  return kosten ? whyNotBuy(*kosten) : quoted(txtEquipmentKosten.text()) + " ist kein Betrag.";
+}
+
+std::string FormAusrüstung::whyNotCyberware(Integer slot) const {
+  if (std::string reason = whyNotBuy(kataloge.CyberKosten[slot]); !reason.empty()) return reason;
+  return whyNotImplant("Essenz", Essenz - kataloge.CyberEssenz[slot]);
+}
+
+std::string FormAusrüstung::whyNotBioware(Integer slot) const {
+  if (std::string reason = whyNotBuy(kataloge.BioKosten[slot]); !reason.empty()) return reason;
+  return whyNotImplant("Bio-Index", BioIndex - kataloge.BioIndexKosten[slot]);
+}
+
+std::string FormAusrüstung::whyNotImplant(std::string_view what, Single left) const {
+  if (left > 0) return {};
+  std::string reason = std::string("Es muss ").append(what).append(" übrig bleiben");
+  if (left < 0) reason += ": " + missing(textOf(readable(-left), environment_.numbers), "");
+  else reason += ".";
+  return reason;
+}
+
+std::string FormAusrüstung::whyNotMagic(Integer slot) const {
+  if (std::string reason = whyNotBuy(kataloge.MagicKosten[slot]); !reason.empty()) return reason;
+  const Integer spells = Spruchpunkte - kataloge.MagicSpruchpunkte[slot];
+  if (spells < 0) return missing(std::to_string(-spells.value()), " Spruchpunkt", "e");
+  const Single powers = Kraftpunkte - kataloge.MagicKraftpunkte[slot];
+  if (powers < 0) return missing(textOf(readable(-powers), environment_.numbers), " Kraftpunkt", "e");
+  return {};
+}
+
+std::string FormAusrüstung::whyNotBuy(Currency kosten) const {
+  if (std::string reason = whyNotPay(kosten); !reason.empty()) return reason;
+  return hasRoom() ? "" : "Die Liste der Ausrüstung ist voll.";
+}
+
+std::string FormAusrüstung::whyNotPay(Currency kosten) const {
+  const Currency left = Ressourcen - kosten;
+  if (left >= 0) return {};
+  return missing(groupedTextOf(left, environment_.numbers).substr(1), " Y");  // without its sign
+}
+
 bool FormAusrüstung::hasRoom() const { return lstAusrüstung.listCount() < mostPurchases; }
 
-void FormAusrüstung::ZeigeRessourcen() { lblMoney.setCaption(textOf(Ressourcen, environment().numbers)); }
+void FormAusrüstung::ZeigeRessourcen() { lblMoney.setCaption(textOf(Ressourcen, environment_.numbers)); }
 
 void FormAusrüstung::ZeigeSpruchpunkte() { lblSpruchPunkte.setCaption(textOf(Spruchpunkte)); }
 
-void FormAusrüstung::ZeigeKraftpunkte() { lblKraftpunkte.setCaption(textOf(Kraftpunkte, environment().numbers)); }
+void FormAusrüstung::ZeigeKraftpunkte() { lblKraftpunkte.setCaption(textOf(Kraftpunkte, environment_.numbers)); }
 
 void FormAusrüstung::ZeigeEssenz() {
-  lblEssenz.setCaption(textOf(Essenz, environment().numbers));
+  lblEssenz.setCaption(textOf(Essenz, environment_.numbers));
   ZeigeBioIndex();
 }
 
-void FormAusrüstung::ZeigeBioIndex() { lblBioIndex.setCaption(textOf(BioIndex, environment().numbers)); }
+void FormAusrüstung::ZeigeBioIndex() { lblBioIndex.setCaption(textOf(BioIndex, environment_.numbers)); }
 
 }  // namespace bogenwerker

@@ -1,25 +1,23 @@
 #include "finish/FormFeinschliff.h"
 
+#include <cassert>
+
+#include "catalogues/catalogues.h"
 #include "finish/FormNamenGeben.h"
+#include "finish/pools.h"
 #include "finish/sheet.h"
-#include "wizard/records.h"
-#include "wizard/text.h"
-#include "zusatzmodul/berechneReaktion.h"
+#include "finish/ware_effects.h"
+#include "outside/records.h"
+#include "values/text.h"
 
 namespace bogenwerker {
-namespace {
 
-// A pool is a sum divided and rounded down.
-Integer poolOf(Integer sum, int divisor) {
-  const double quotient = static_cast<double>(sum.value()) / divisor;
-  return berechneReaktion(quotient, quotient);
-}
-
-}  // namespace
-
-FormFeinschliff::FormFeinschliff(FormsRuntime& runtime, FormNamenGeben& namenGeben)
+FormFeinschliff::FormFeinschliff(FormsRuntime& runtime, const Environment& environment, FormNamenGeben& namenGeben)
     : FormWith(runtime, "formFeinschliff",
-               {.caption = "Endgültige Werte erzeugen - Schritt 6", .stretch = {.rows = {0, 1, 0}, .columns = {0, 1}}}),
+               {.caption = "Endgültige Werte erzeugen - Schritt 6",
+                .help = "schritt6",
+                .stretch = {.rows = {0, 1, 0}, .columns = {0, 1}}}),
+      environment_(environment),
       formNamenGeben(namenGeben) {
   formNamenGeben.whenDone([this] { setVisible(true); });
 }
@@ -31,23 +29,23 @@ void FormFeinschliff::Form_Load() {
 
   readAttributes();
   readEssenz();
-  readEquipment();
+  const std::vector<std::string> lines = readEquipment();
 
-  checkCyberdeck();
-  ModifAttribErzeugen();
-  WendeWareAn();
-  checkMagie();
-  ZeigeAttribute();
-  BerechneKampfPool();
-  BerechneZauberPool();
-  BerechneAstralKampfPool();
-  BerechneHackingPool();
+  checkCyberdeck(lines);
+  ModifAttribErzeugen(*this);
+  WendeWareAn(*this, lines, environment_.files);
+  checkMagie(*this, lines, environment_.files);
+  BerechneKampfPool(*this);
+  BerechneZauberPool(*this);
+  BerechneAstralKampfPool(*this);
+  BerechneHackingPool(*this);
+  ZeigeWerte();
   ZeigeFertigkeiten();
 }
 
 // By place, not by name: Charisma stands before Intelligenz.
 void FormFeinschliff::readAttributes() {
-  const std::string file = environment().files.read("Attribute.txt");
+  const std::string file = environment_.files.read("Attribute.txt");
   RecordReader reader("Attribute.txt", file);
   NumberedArray<Integer, 10> values;
   for (Integer place = 1; !reader.atEnd(); ++place) {
@@ -65,137 +63,48 @@ void FormFeinschliff::readAttributes() {
 }
 
 void FormFeinschliff::readEssenz() {
-  const std::string file = environment().files.read("Essenz.txt");
+  const std::string file = environment_.files.read("Essenz.txt");
   Untyped bioIndex;
   RecordReader("Essenz.txt", file).read(Essenz, bioIndex);
 }
 
-void FormFeinschliff::readEquipment() {
-  const std::string file = environment().files.read("Ausrüstung.txt");
-  RecordReader reader("Ausrüstung.txt", file);
-  AusruestungsZaehler = 1;
-  while (!reader.atEnd()) {
-    reader.read(AusruestungsZeile[AusruestungsZaehler]);
+// Gives back the lines as the file has them, in code page 1252, for the look-up in the catalogues.
+std::vector<std::string> FormFeinschliff::readEquipment() {
+  const std::string file = environment_.files.read("Ausrüstung.txt");
+  std::vector<std::string> lines;
+  for (RecordReader reader("Ausrüstung.txt", file); !reader.atEnd(); ++AusruestungsZaehler) {
+    lines.emplace_back(reader.readRaw());
+    AusruestungsZeile[AusruestungsZaehler] = utf8FromCp1252(lines.back());
     lstAusrüstung.addItem(AusruestungsZeile[AusruestungsZaehler]);
-    ++AusruestungsZaehler;
   }
+  return lines;
 }
 
 // The last deck on the list decides, but every one gets its two lines.
-void FormFeinschliff::checkCyberdeck() {
+void FormFeinschliff::checkCyberdeck(const std::vector<std::string>& lines) {
   std::string buffer;
-  for (Integer i = 1; i < AusruestungsZaehler; ++i) {
-    forEachRowNamed<DeckRow>(environment().files, "Cyberdecks.txt", cp1252FromUtf8(AusruestungsZeile[i]), buffer,
-                             [this](const DeckRow& deck) {
-                               MPCP = deck.MPCP;
-                               Reaktionsverstärkung = deck.Reaktionsverstärkung;
-                               lstAusrüstung.addItem("MPCP: " + textOf(MPCP));
-                               lstAusrüstung.addItem("Reaktionsverstärkung: " + textOf(Reaktionsverstärkung));
-                             });
+  for (const std::string& line : lines) {
+    forEachRowNamed<DeckRow>(environment_.files, "Cyberdecks.txt", line, buffer, [this](const DeckRow& deck) {
+      MPCP = deck.MPCP;
+      Reaktionsverstärkung = deck.Reaktionsverstärkung;
+      lstAusrüstung.addItem("MPCP: " + textOf(MPCP));
+      lstAusrüstung.addItem("Reaktionsverstärkung: " + textOf(Reaktionsverstärkung));
+    });
   }
 }
 
-void FormFeinschliff::ModifAttribErzeugen() {
-  ModKonstitution = Konstitution;
-  ModSchnelligkeit = Schnelligkeit;
-  ModStärke = Stärke;
-  ModIntelligenz = Intelligenz;
-  ModCharisma = Charisma;
-  ModWillenskraft = Willenskraft;
-}
-
-void FormFeinschliff::WendeWareAn() {
-  Initiative = 1;
-  std::string buffer;
-  for (Integer i = 1; i < AusruestungsZaehler; ++i) {
-    const std::string line = cp1252FromUtf8(AusruestungsZeile[i]);
-    for (const char* file : {"Cyberware.txt", "Bioware.txt"}) {
-      forEachRowNamed<WareRow>(environment().files, file, line, buffer,
-                               [this](const WareRow& ware) { WendeWerteAn(ware.effects); });
-    }
+void FormFeinschliff::ZeigeWerte() {
+  for (const FinalValue& value : finalValues) {
+    Control* control = find(value.control);
+    assert(control != nullptr && "a final value without its label");
+    std::string text = value.text(*this, environment_.numbers).onForm;
+    if (auto* label = dynamic_cast<Label*>(control)) label->setCaption(std::move(text));
+    else dynamic_cast<TextBox&>(*control).setText(std::move(text));
   }
-  ModReaktion = berechneReaktion(ModSchnelligkeit - ReakAbzugSchnell, ModIntelligenz - ReakAbzugIntell) + ReakBonus;
-}
-
-void FormFeinschliff::WendeWerteAn(const WareEffects& ware) {
-  ModKonstitution += ware.kon;
-  ModSchnelligkeit += ware.Schnell;
-  ModStärke += ware.Stark;
-  ModIntelligenz += ware.Intell;
-  ModCharisma += ware.Char;
-  ModWillenskraft += ware.Will;
-  ReakBonus += ware.reak;
-
-  if (!ware.AnwendaufReak) {
-    ReakAbzugSchnell = ware.Schnell;
-    ReakAbzugIntell = ware.Intell;
-  }
-  if (ware.reakRIGGER != 0) {
-    SpecReaktion = berechneReaktion(ModSchnelligkeit, ModIntelligenz) + ware.reakRIGGER;
-    Steuerpool = SpecReaktion;
-    txtSteuerpool.setText(textOf(Steuerpool));
-  }
-  if (ware.reakDECKER != 0 || Reaktionsverstärkung != 0) {
-    SpecReaktion = berechneReaktion(ModSchnelligkeit, ModIntelligenz) + ware.reakDECKER + 2 * Reaktionsverstärkung;
-  }
-
-  ModInitiative = ware.ini + Initiative;
-  if (ware.iniRIGGER != 0) SpecInitiative = ware.iniRIGGER + Initiative;
-  if (ware.iniDECKER != 0 || Reaktionsverstärkung != 0) {
-    SpecInitiative = ware.iniDECKER + Initiative + Reaktionsverstärkung;
-  }
-  if (!ware.AnwendaufPools) {
-    PoolAbzugIntell = ware.Intell;
-    PoolAbzugCharisma = ware.Char;
-    PoolAbzugWill = ware.Will;
-    PoolAbzugSchnell = ware.Schnell;
-  }
-}
-
-void FormFeinschliff::checkMagie() {
-  if (Single(Magie.value()) != Essenz && Magie != 0) Magie = berechneReaktion(double{Essenz}, double{Essenz});
-}
-
-void FormFeinschliff::ZeigeAttribute() {
-  lblKonstitution.setCaption(boughtAndModified(Konstitution, ModKonstitution));
-  lblSchnelligkeit.setCaption(boughtAndModified(Schnelligkeit, ModSchnelligkeit));
-  lblStärke.setCaption(boughtAndModified(Stärke, ModStärke));
-  lblCharisma.setCaption(boughtAndModified(Charisma, ModCharisma));
-  lblIntelligenz.setCaption(boughtAndModified(Intelligenz, ModIntelligenz));
-  lblWillenskraft.setCaption(boughtAndModified(Willenskraft, ModWillenskraft));
-  lblMagie.setCaption(textOf(Magie));
-  lblReaktion.setCaption(reaktionText());
-  lblEssenz.setCaption(essenzText());
-  lblInitiative.setCaption(initiativeText());
-}
-
-void FormFeinschliff::BerechneKampfPool() {
-  Kampfpool = poolOf(
-      ModIntelligenz + ModSchnelligkeit + ModWillenskraft - PoolAbzugIntell - PoolAbzugSchnell - PoolAbzugWill, 2);
-  txtKampfpool.setText(textOf(Kampfpool));
-}
-
-void FormFeinschliff::BerechneZauberPool() {
-  if (Magie == 0) return;
-  Zauberpool = poolOf(ModWillenskraft + ModIntelligenz + Magie - PoolAbzugIntell - PoolAbzugWill, 3);
-  txtZauberpool.setText(textOf(Zauberpool));
-}
-
-void FormFeinschliff::BerechneAstralKampfPool() {
-  if (Magie == 0) return;
-  Astralkampf =
-      poolOf(ModIntelligenz - PoolAbzugIntell + ModCharisma - PoolAbzugCharisma + ModWillenskraft - PoolAbzugWill, 2);
-  txtAstralkampf.setText(textOf(Astralkampf));
-}
-
-void FormFeinschliff::BerechneHackingPool() {
-  if (MPCP == 0) return;
-  Hackingpool = poolOf(ModIntelligenz - PoolAbzugIntell + MPCP, 3);
-  txtHackingpool.setText(textOf(Hackingpool));
 }
 
 void FormFeinschliff::ZeigeFertigkeiten() {
-  Files& files = environment().files;
+  Files& files = environment_.files;
 
   lstAusrüstung.addItem("");
   lstAusrüstung.addItem("AKTIONSFERTIGKEITEN:");
@@ -205,7 +114,7 @@ void FormFeinschliff::ZeigeFertigkeiten() {
     const Integer i = FertigkeitZaehler;
     reader.read(FertigkeitName[i], SpeziName[i], FertigkeitStufe[i], SpeziStufe[i]);
     lstAusrüstung.addItem(FertigkeitName[i] + " (" + SpeziName[i] + ") " +
-                          boughtAndModified(FertigkeitStufe[i], SpeziStufe[i]));
+                          withBracket(FertigkeitStufe[i], SpeziStufe[i]));
   }
 
   WissensZaehler = 1;
@@ -230,24 +139,11 @@ void FormFeinschliff::ZeigeFertigkeiten() {
 }
 
 void FormFeinschliff::cmdErzeugeHTML_Click() {
-  writeSheet(environment().files, *this, formNamenGeben);
-  environment().showMessage(
+  const std::string sheet = writeSheet(environment_, *this, formNamenGeben);
+  environment_.showMessage(
       Message::closing, "Fertig! Bitte überprüfen Sie den Charakter. Marvino's Bogenwerker ersetzt keine Regelwerke!");
+  if (environment_.sheetFinished) environment_.sheetFinished(sheet);
   unload();
-}
-
-std::string FormFeinschliff::essenzText() const { return textOf(roundToHundredths(Essenz), environment().numbers); }
-
-std::string FormFeinschliff::reaktionText() const {
-  return boughtAndModified(Reaktion, ModReaktion) + " (" + textOf(SpecReaktion) + ")";
-}
-
-std::string FormFeinschliff::initiativeText() const {
-  return "+1W6 (+" + textOf(ModInitiative) + "W6) (+" + textOf(SpecInitiative) + "W6)";
-}
-
-std::string boughtAndModified(Integer bought, Integer modified) {
-  return textOf(bought) + " (" + textOf(modified) + ")";
 }
 
 }  // namespace bogenwerker

@@ -3,13 +3,11 @@
 namespace bogenwerker {
 
 FormNamenGeben::FormNamenGeben(FormsRuntime& runtime)
-    : FormWith(runtime, "formNamenGeben", {.caption = "Persönliche Daten", .isDialog = true}) {}
+    : FormWith(runtime, "formNamenGeben", {.caption = "Persönliche Daten", .isDialog = true, .help = "daten"}) {}
 
 // The starting texts are selected whole, so that typing replaces them.
 void FormNamenGeben::Form_Load() {
-  txtName.setSelLength(19);
-  txtAlter.setSelLength(20);
-  txtAussehen.setSelLength(23);
+  for (TextBox* box : {&txtName, &txtAlter, &txtAussehen}) box->setSelLength(static_cast<int>(box->text().size()));
 }
 
 void FormNamenGeben::cmbGeschlecht_Click() { geschlecht = cmbGeschlecht.text(); }

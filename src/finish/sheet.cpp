@@ -5,11 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "finish/FormFeinschliff.h"
-#include "finish/FormNamenGeben.h"
-#include "wizard/fault.h"
-#include "wizard/records.h"
-#include "wizard/text.h"
+#include "catalogues/check.h"
+#include "outside/records.h"
+#include "values/text.h"
 
 namespace bogenwerker {
 namespace {
@@ -19,31 +17,18 @@ constexpr std::string_view templateFile = "template.htm";
 // Replaces the text of one unit of the template. The placeholders that name a list move on through it.
 class Placeholders {
  public:
-  Placeholders(const FormFeinschliff& values, const FormNamenGeben& person, const std::string& race)
+  Placeholders(const FinalValues& values, const PersonalData& person, const std::string& race,
+               const NumberLocale& numbers)
       : v_(values),
-        values_{{
-            {"#NAME#", person.Namen},
-            {"#GSCHLCHT#", person.geschlecht},
-            {"#ALTER#", person.alter},
-            {"#LOOK#", person.aussehen},
-            {"#RASSE#", race},
-            {"#konst#", boughtAndModified(v_.Konstitution, v_.ModKonstitution)},
-            {"#schnell#", boughtAndModified(v_.Schnelligkeit, v_.ModSchnelligkeit)},
-            {"#stark#", boughtAndModified(v_.Stärke, v_.ModStärke)},
-            {"#charisma#", boughtAndModified(v_.Charisma, v_.ModCharisma)},
-            {"#intell#", boughtAndModified(v_.Intelligenz, v_.ModIntelligenz)},
-            {"#will#", boughtAndModified(v_.Willenskraft, v_.ModWillenskraft)},
-            {"#magie#", textOf(v_.Magie)},
-            {"#reak#", v_.reaktionText()},
-            {"#essenz#", v_.essenzText()},
-            {"#ini#", v_.initiativeText()},
-            {"#astral#", textOf(v_.Astralkampf)},
-            {"#kampf#", textOf(v_.Kampfpool)},
-            {"#steuer#", textOf(v_.Steuerpool)},
-            {"#hacking#", textOf(v_.Hackingpool)},
-            {"#zauber#", textOf(v_.Zauberpool)},
-            {"#aufgaben#", textOf(v_.Aufgabenpool)},
-        }} {}
+        values_{{"#NAME#", person.Namen},
+                {"#GSCHLCHT#", person.geschlecht},
+                {"#ALTER#", person.alter},
+                {"#LOOK#", person.aussehen},
+                {"#RASSE#", race}} {
+    for (const FinalValue& value : finalValues) {
+      values_.emplace_back(value.placeholder, value.text(values, numbers).onSheet);
+    }
+  }
 
   // A chain without an early exit: each test sees the text as the one before left it.
   void replace(std::string& text) {
@@ -54,7 +39,7 @@ class Placeholders {
       text = v_.FertigkeitName[ZeileFertigkeit] + " (" + v_.SpeziName[ZeileFertigkeit] + ")";
     }
     if (text == "#FStufe#" && ZeileFertigkeit < v_.FertigkeitZaehler) {
-      text = boughtAndModified(v_.FertigkeitStufe[ZeileFertigkeit], v_.SpeziStufe[ZeileFertigkeit]);
+      text = withBracket(v_.FertigkeitStufe[ZeileFertigkeit], v_.SpeziStufe[ZeileFertigkeit]);
       ++ZeileFertigkeit;
     }
     // Languages follow the knowledge skills: their tests find only what those of the skills left.
@@ -72,14 +57,14 @@ class Placeholders {
       text = v_.AusruestungsZeile[ZeileAusruestung];
       ++ZeileAusruestung;
     }
-    constexpr std::array<std::string_view, 5> lists = {"#AFertigkeit#", "#FStufe#", "#WFertigkeit#", "#WStufe#",
-                                                       "#AUSRÜSTUNG#"};
+    constexpr auto lists =
+        std::to_array<std::string_view>({"#AFertigkeit#", "#FStufe#", "#WFertigkeit#", "#WStufe#", "#AUSRÜSTUNG#"});
     if (std::find(lists.begin(), lists.end(), text) != lists.end()) text = ".";  // no entry left
   }
 
  private:
-  const FormFeinschliff& v_;
-  std::array<std::pair<std::string_view, std::string>, 21> values_;
+  const FinalValues& v_;
+  std::vector<std::pair<std::string_view, std::string>> values_;
   Integer ZeileFertigkeit = 1;
   Integer ZeileWissen = 1;
   Integer ZeileSprache = 1;
@@ -102,7 +87,8 @@ bool isDeviceName(std::string_view name) {
 
 }  // namespace
 
-void writeSheet(Files& files, const FormFeinschliff& values, const FormNamenGeben& person) {
+std::string writeSheet(const Environment& environment, const FinalValues& values, const PersonalData& person) {
+  Files& files = environment.files;
   const std::string priorities = files.read("Prioritäten.txt");
   std::string race;
   Untyped magic;
@@ -110,7 +96,7 @@ void writeSheet(Files& files, const FormFeinschliff& values, const FormNamenGebe
   RecordReader("Prioritäten.txt", priorities).read(race, magic, resources);
 
   const std::string page = files.read(templateFile);
-  Placeholders placeholders(values, person, race);
+  Placeholders placeholders(values, person, race, environment.numbers);
   std::string sheet;
   sheet.reserve(page.size() + page.size() / 4);
   for (RecordReader reader(templateFile, page); !reader.atEnd();) {
@@ -123,12 +109,16 @@ void writeSheet(Files& files, const FormFeinschliff& values, const FormNamenGebe
       sheet.append(unit).append("\r\n");
     }
   }
-  files.replace(sheetFileName(person.Namen), sheet, Durability::onDisk);
+  std::string file = sheetFileName(person.Namen);
+  files.replace(file, sheet, Durability::onDisk);
+  return file;
 }
 
 std::string sheetFileName(std::string_view Namen) {
-  constexpr std::size_t mostBytes = 200;
-  std::string name(utf8Prefix(Namen, mostBytes));
+  constexpr std::string_view ending = ".htm";
+  constexpr std::size_t mostBytes = 255;
+  constexpr std::size_t mostAheadOfMark = 242;
+  std::string name(Namen);
   for (char& c : name) {
     if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F ||
         std::string_view("<>:\"/\\|?*").find(c) != std::string_view::npos) {
@@ -136,16 +126,16 @@ std::string sheetFileName(std::string_view Namen) {
     }
   }
   // What goes with this ending is a sheet, a template or nothing of ours: the catalogues and step files end otherwise.
-  if (isDeviceName(name) || lowerAscii(name) + ".htm" == templateFile) name.insert(0, 1, '_');
-  return name + ".htm";
+  if (isDeviceName(name) || lowerAscii(name).append(ending) == templateFile) name.insert(0, 1, '_');
+  if (name != Namen || name.size() + ending.size() > mostBytes) {
+    name = std::string(utf8Prefix(name, mostAheadOfMark)) + "_" + markOf(Namen);
+  }
+  return name.append(ending);
 }
 
 void checkTemplate(Files& files, std::vector<std::string>& faults) {
-  try {
-    if (looksLikeUnicode(files.read(templateFile))) faults.push_back(savedAsUnicode(templateFile));
-  } catch (const Fault& fault) {
-    faults.emplace_back(fault.what());
-  }
+  std::string bytes;
+  readText(files, templateFile, bytes, faults);
 }
 
 }  // namespace bogenwerker

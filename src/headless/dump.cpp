@@ -2,7 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "wizard/controls.h"
+#include "forms/controls.h"
 
 namespace bogenwerker {
 namespace {

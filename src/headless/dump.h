@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "sequence/wizard.h"
+#include "wizard/wizard.h"
 
 namespace bogenwerker {
 

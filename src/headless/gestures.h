@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "sequence/wizard.h"
+#include "wizard/wizard.h"
 
 namespace bogenwerker {
 

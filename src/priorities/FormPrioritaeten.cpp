@@ -1,13 +1,16 @@
 #include "priorities/FormPrioritaeten.h"
 
+#include <array>
+
 #include "attributes/FormAttributmonitor.h"
 #include "priorities/uebergebePrioritaeten.h"
 
 namespace bogenwerker {
 
-FormPrioritäten::FormPrioritäten(FormsRuntime& runtime, FormAttributmonitor& attributmonitor,
-                                 FormAktionFertigkeit& aktionFertigkeit)
-    : FormWith(runtime, "formPrioritäten", {.caption = "Bogenwerker - Schritt 1"}),
+FormPrioritäten::FormPrioritäten(FormsRuntime& runtime, const Environment& environment,
+                                 FormAttributmonitor& attributmonitor, FormAktionFertigkeit& aktionFertigkeit)
+    : FormWith(runtime, "formPrioritäten", {.caption = "Bogenwerker - Schritt 1", .help = "schritt1"}),
+      environment_(environment),
       formAttributmonitor(attributmonitor),
       formAktionFertigkeit(aktionFertigkeit) {}
 
@@ -48,18 +51,35 @@ void FormPrioritäten::cmdWeiter1_Click() {
   setVisible(false);
   formAttributmonitor.setVisible(true);
   uebergebePrioritaeten(Rasse, Magie, AttributPunkte, FertigkeitenPunkte, Ressourcen, formAttributmonitor,
-                        formAktionFertigkeit, environment().files);
+                        formAktionFertigkeit, environment_.files);
   unload();
 }
 
-// Every row has to be covered; with five columns that leaves no two of them in one row.
+// Every row has to be covered; with five columns that leaves none of them without a choice and no two in one row.
+std::string FormPrioritäten::whyNotWeiter1() const {
+  if (PrioA && PrioB && PrioC && PrioD && PrioE) return {};
+
+  std::string missing;
+  std::string doubled;
+  std::array<int, 5> choicesInRow{};
+  for (const Frame* column : {&frmRasse, &frmMagie, &frmAttribute, &frmFertigkeiten, &frmRessouren}) {
+    const OptionButton* choice = column->chosen();
+    if (choice == nullptr) {
+      missing.append(missing.empty() ? "Es fehlt noch: " : ", ").append(column->caption());
+    } else if (const int row = choice->place().row; ++choicesInRow.at(static_cast<std::size_t>(row)) == 2) {
+      doubled.append(" Priorität ").append(1, static_cast<char>('A' + row)).append(" ist doppelt vergeben.");
+    }
+  }
+  return missing.empty() ? doubled.substr(1) : missing + "." + doubled;
+}
+
 void FormPrioritäten::checkPrioritaeten() {
   checkPrioA();
   checkPrioB();
   checkPrioC();
   checkPrioD();
   checkPrioE();
-  cmdWeiter1.setEnabled(PrioA && PrioB && PrioC && PrioD && PrioE);
+  cmdWeiter1.setEnabled(whyNotWeiter1().empty());
 }
 
 void FormPrioritäten::checkPrioA() {

@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "attributes/FormAttributmonitor.h"
+#include "outside/records.h"
 #include "skills/FormAktionFertigkeit.h"
-#include "wizard/records.h"
 
 namespace bogenwerker {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "wizard/files.h"
-#include "wizard/numbers.h"
+#include "outside/files.h"
+#include "values/numbers.h"
 
 namespace bogenwerker {
 

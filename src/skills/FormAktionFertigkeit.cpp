@@ -1,14 +1,16 @@
 #include "skills/FormAktionFertigkeit.h"
 
+#include "outside/records.h"
 #include "skills/FormWissensfertigkeit.h"
-#include "skills/levels.h"
-#include "wizard/records.h"
+#include "values/text.h"
 
 namespace bogenwerker {
 
-FormAktionFertigkeit::FormAktionFertigkeit(FormsRuntime& runtime, FormWissensfertigkeit& wissensfertigkeit)
+FormAktionFertigkeit::FormAktionFertigkeit(FormsRuntime& runtime, const Environment& environment,
+                                           FormWissensfertigkeit& wissensfertigkeit)
     : FormWith(runtime, "formAktionFertigkeit",
-               {.caption = "Aktionsfertigkeiten - Schritt 3", .stretch = {.rows = {0, 1, 0}}}),
+               {.caption = "Aktionsfertigkeiten - Schritt 3", .help = "schritt3", .stretch = {.rows = {0, 1, 0}}}),
+      environment_(environment),
       formWissensfertigkeit(wissensfertigkeit) {}
 
 void FormAktionFertigkeit::Form_Load() { zaehler = 1; }
@@ -24,17 +26,15 @@ void FormAktionFertigkeit::optAFMagie_Click() { link(lblREMmagie); }
 
 // The next skill takes the value as it is now; which attribute it came from is not kept.
 void FormAktionFertigkeit::link(const Label& attribute) {
-  if (hasRoom()) AttributWert[zaehler] = integerOf(attribute.caption());
+  if (hasRoom(zaehler)) AttributWert[zaehler] = integerOf(attribute.caption());
 }
-
-bool FormAktionFertigkeit::hasRoom() const { return zaehler <= decltype(FertigkeitName)::mostEntries; }
 
 void FormAktionFertigkeit::txtAFertigkeit_Change() { cmdAddFertigkeit.setEnabled(!txtAFertigkeit.text().empty()); }
 
 void FormAktionFertigkeit::cmdAddFertigkeit_Click() {
   MaxPoints = integerOf(lblTotalFertigkeitenPunkte.caption());
   CheckDaButtons();
-  if (CheckButton && hasRoom()) {
+  if (CheckButton && hasRoom(zaehler)) {
     cmdAddFertigkeit.setEnabled(false);
     FertigkeitName[zaehler] = txtAFertigkeit.text();
     FertigkeitStufe[zaehler] = 0;
@@ -48,7 +48,7 @@ void FormAktionFertigkeit::cmdAddFertigkeit_Click() {
 void FormAktionFertigkeit::lstAFertigkeiten_Click() { merkzahl = numberOfLine(lstAFertigkeiten.text()); }
 
 void FormAktionFertigkeit::cmdFertigkeitPlus_Click() {
-  if (FertigkeitStufe[merkzahl] < highestLevel && merkzahl != 0) {
+  if (whyNotPlus().empty()) {
     ++FertigkeitStufe[merkzahl];
     UsedPoints += priceOfLevel(FertigkeitStufe[merkzahl], AttributWert[merkzahl]);
   }
@@ -56,7 +56,7 @@ void FormAktionFertigkeit::cmdFertigkeitPlus_Click() {
 }
 
 void FormAktionFertigkeit::cmdFertigkeitMinus_Click() {
-  if (FertigkeitStufe[merkzahl] > 0 && merkzahl != 0) {
+  if (whyNotMinus().empty()) {
     UsedPoints -= priceOfLevel(FertigkeitStufe[merkzahl], AttributWert[merkzahl]);
     FertigkeitStufe[merkzahl] -= 1;
   }
@@ -77,7 +77,7 @@ void FormAktionFertigkeit::txtSpezi_Change() {
 
 void FormAktionFertigkeit::cmdAddSpezi_Click() {
   cmdAddSpezi.setEnabled(false);
-  if (FertigkeitStufe[merkzahl] > 1) {
+  if (canSpecialise()) {
     SpeziName[merkzahl] = txtSpezi.text();
     SpeziStufe[merkzahl] = FertigkeitStufe[merkzahl] + 1;
     FertigkeitStufe[merkzahl] -= 1;
@@ -86,7 +86,7 @@ void FormAktionFertigkeit::cmdAddSpezi_Click() {
 }
 
 void FormAktionFertigkeit::cmddisformisready_Click() {
-  Files& files = environment().files;
+  Files& files = environment_.files;
   RecordWriter skills(files, "Fertigkeiten.txt");
   for (Integer i = 1; i < zaehler; ++i) {
     skills.write(FertigkeitName[i], SpeziName[i], FertigkeitStufe[i], SpeziStufe[i]);
@@ -109,10 +109,47 @@ void FormAktionFertigkeit::cmddisformisready_Click() {
   unload();
 }
 
-void FormAktionFertigkeit::CheckDaButtons() {
-  CheckButton = optAFKonst.value() || optAFSchnell.value() || optAFStark.value() || optAFCharisma.value() ||
-                optAFIntell.value() || optAFWill.value() || optAFReaktion.value() || optAFMagie.value();
+// Ahead of the first skill there is no budget yet, and so none that could be spent.
+std::string FormAktionFertigkeit::whyNotReady() const {
+  if (MaxPoints == 0) return "Fügen Sie erst eine Fertigkeit hinzu.";
+  return pointsLeft(MaxPoints.value() - UsedPoints.value(), "Fertigkeitspunkt", "Fertigkeitspunkte");
 }
+
+std::string FormAktionFertigkeit::whyNotComplete() const {
+  return frmSpezi.isEnabled() ? "Die Aktionsfertigkeiten sind schon vollständig." : whyNotReady();
+}
+
+std::string FormAktionFertigkeit::whyNotAddFertigkeit() const {
+  if (std::string reason = whyNotAdd(txtAFertigkeit, cmdAddFertigkeit, zaehler); !reason.empty()) return reason;
+  return frmZugAttr.chosen() == nullptr ? "Es fehlt noch das zugehörige Attribut." : "";
+}
+
+std::string FormAktionFertigkeit::whyNoLevels() const {
+  if (frmSpezi.isEnabled()) return "Die Stufen stehen fest: Jetzt folgen die Spezialisierungen.";
+  return merkzahl == 0 ? clickALine : "";
+}
+
+std::string FormAktionFertigkeit::whyNotPlus() const {
+  if (std::string reason = whyNoLevels(); !reason.empty()) return reason;
+  return whyNotRaise(FertigkeitName[merkzahl], FertigkeitStufe[merkzahl]);
+}
+
+std::string FormAktionFertigkeit::whyNotMinus() const {
+  if (std::string reason = whyNoLevels(); !reason.empty()) return reason;
+  return whyNotLower(FertigkeitName[merkzahl], FertigkeitStufe[merkzahl]);
+}
+
+// The field enables the button only as it changes, and never disables it.
+std::string FormAktionFertigkeit::whyNotAddSpezi() const {
+  if (!frmSpezi.isEnabled()) return "Erst müssen die Aktionsfertigkeiten vollständig sein.";
+  if (merkzahl == 0) return clickALine;
+  if (!canSpecialise()) return quoted(FertigkeitName[merkzahl]) + " braucht dafür mindestens Stufe 2.";
+  if (cmdAddSpezi.isEnabled()) return {};
+  return txtSpezi.text().empty() ? "Es fehlt noch der Name der Spezialisierung."
+                                 : "Ändern Sie den Namen der Spezialisierung.";
+}
+
+void FormAktionFertigkeit::CheckDaButtons() { CheckButton = frmZugAttr.chosen() != nullptr; }
 
 void FormAktionFertigkeit::clearButtons() {
   for (OptionButton* option : {&optAFKonst, &optAFSchnell, &optAFStark, &optAFCharisma, &optAFIntell, &optAFWill,
@@ -128,8 +165,7 @@ void FormAktionFertigkeit::schreibeListe() {
                              ")  -- Stufe: " + textOf(FertigkeitStufe[i]) + "(" + textOf(SpeziStufe[i]) + ")");
   }
   lblAktuellFertPunkte.setCaption(textOf(UsedPoints));
-  // Ahead of the first skill there is no budget yet, and so none that could be spent.
-  const bool allSpent = MaxPoints != 0 && UsedPoints == MaxPoints;
+  const bool allSpent = whyNotReady().empty();
   cmdafertcompl.setEnabled(allSpent);
   cmddisformisready.setEnabled(allSpent);
 }

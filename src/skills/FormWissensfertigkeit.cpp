@@ -1,8 +1,8 @@
 #include "skills/FormWissensfertigkeit.h"
 
 #include "equipment/FormAusruestung.h"
-#include "skills/levels.h"
-#include "wizard/records.h"
+#include "outside/records.h"
+#include "values/text.h"
 
 namespace bogenwerker {
 namespace {
@@ -13,15 +13,19 @@ std::string entryLine(Integer number, const std::string& name, Integer level) {
 
 }  // namespace
 
-FormWissensfertigkeit::FormWissensfertigkeit(FormsRuntime& runtime, FormAusrüstung& ausrüstung)
+FormWissensfertigkeit::FormWissensfertigkeit(FormsRuntime& runtime, const Environment& environment,
+                                             FormAusrüstung& ausrüstung)
     : FormWith(runtime, "formWissensfertigkeit",
-               {.caption = "Wissensfertigkeiten - Schritt 4", .stretch = {.rows = {0, 1, 0}, .columns = {1, 1}}}),
+               {.caption = "Wissensfertigkeiten - Schritt 4",
+                .help = "schritt4",
+                .stretch = {.rows = {0, 1, 0}, .columns = {1, 1}}}),
+      environment_(environment),
       formAusrüstung(ausrüstung) {}
 
 void FormWissensfertigkeit::Form_Load() {
   zaehler = 1;
   zaehler2 = 1;
-  const std::string file = environment().files.read("Attribute.txt");
+  const std::string file = environment_.files.read("Attribute.txt");
   RecordReader reader("Attribute.txt", file);
   while (!reader.atEnd()) {
     std::string name;
@@ -45,7 +49,7 @@ void FormWissensfertigkeit::txtWFertigkeit_Change() { cmdAddWFertigkeit.setEnabl
 void FormWissensfertigkeit::txtSprache_Change() { cmdAddSprache.setEnabled(!txtSprache.text().empty()); }
 
 void FormWissensfertigkeit::cmdAddWFertigkeit_Click() {
-  if (zaehler > decltype(WissensName)::mostEntries) return;
+  if (!hasRoom(zaehler)) return;
   cmdAddWFertigkeit.setEnabled(false);
   WissensName[zaehler] = txtWFertigkeit.text();
   WissensStufe[zaehler] = 0;
@@ -54,7 +58,7 @@ void FormWissensfertigkeit::cmdAddWFertigkeit_Click() {
 }
 
 void FormWissensfertigkeit::cmdAddSprache_Click() {
-  if (zaehler2 > decltype(SprachName)::mostEntries) return;
+  if (!hasRoom(zaehler2)) return;
   cmdAddSprache.setEnabled(false);
   SprachName[zaehler2] = txtSprache.text();
   SprachStufe[zaehler2] = 0;
@@ -73,11 +77,12 @@ void FormWissensfertigkeit::lstSprachen_Click() {
 }
 
 void FormWissensfertigkeit::cmdPlusWFert_Click() {
-  if (Zeiger == "Wissensfertigkeit" && WissensStufe[merkzahl] < highestLevel && merkzahl != 0) {
+  const bool rises = whyNotPlus().empty();
+  if (Zeiger == "Wissensfertigkeit" && rises) {
     ++WissensStufe[merkzahl];
     WissensPunkte -= priceOfLevel(WissensStufe[merkzahl], Intelligenz);
   }
-  if (Zeiger == "Sprache" && SprachStufe[merkzahl] < highestLevel && merkzahl != 0) {
+  if (Zeiger == "Sprache" && rises) {
     ++SprachStufe[merkzahl];
     SprachPunkte -= priceOfLevel(SprachStufe[merkzahl], Intelligenz);
     if (SprachPunkte < 0) {
@@ -89,11 +94,12 @@ void FormWissensfertigkeit::cmdPlusWFert_Click() {
 }
 
 void FormWissensfertigkeit::cmdMinusWFert_Click() {
-  if (Zeiger == "Wissensfertigkeit" && WissensStufe[merkzahl] > 0 && merkzahl != 0) {
+  const bool falls = whyNotMinus().empty();
+  if (Zeiger == "Wissensfertigkeit" && falls) {
     WissensPunkte += priceOfLevel(WissensStufe[merkzahl], Intelligenz);
     WissensStufe[merkzahl] -= 1;
   }
-  if (Zeiger == "Sprache" && SprachStufe[merkzahl] > 0 && merkzahl != 0) {
+  if (Zeiger == "Sprache" && falls) {
     const Integer refund = priceOfLevel(SprachStufe[merkzahl], Intelligenz);
     SprachStufe[merkzahl] -= 1;
     SprachPunkte += refund;
@@ -106,7 +112,7 @@ void FormWissensfertigkeit::cmdMinusWFert_Click() {
 }
 
 void FormWissensfertigkeit::cmdGoAhead_Click() {
-  Files& files = environment().files;
+  Files& files = environment_.files;
   RecordWriter skills(files, "Wissensfertigkeiten.txt");
   for (Integer i = 1; i < zaehler; ++i) skills.write(WissensName[i], WissensStufe[i]);
   skills.close();
@@ -134,6 +140,24 @@ void FormWissensfertigkeit::ZeigeFreePoints() {
   lblWissensPunkte.setCaption(textOf(WissensPunkte));
 }
 
-void FormWissensfertigkeit::CheckFreePoints() { cmdGoAhead.setEnabled(SprachPunkte == 0 && WissensPunkte == 0); }
+void FormWissensfertigkeit::CheckFreePoints() { cmdGoAhead.setEnabled(whyNotGoAhead().empty()); }
+
+std::string FormWissensfertigkeit::whyNotGoAhead() const {
+  const std::string skills = pointsLeft(WissensPunkte.value(), "Wissenspunkt", "Wissenspunkte");
+  const std::string languages = pointsLeft(SprachPunkte.value(), "Sprachpunkt", "Sprachpunkte");
+  return skills.empty() || languages.empty() ? skills + languages : skills + " " + languages;
+}
+
+std::string FormWissensfertigkeit::whyNotPlus() const {
+  if (merkzahl == 0) return clickALine;
+  return Zeiger == "Sprache" ? whyNotRaise(SprachName[merkzahl], SprachStufe[merkzahl])
+                             : whyNotRaise(WissensName[merkzahl], WissensStufe[merkzahl]);
+}
+
+std::string FormWissensfertigkeit::whyNotMinus() const {
+  if (merkzahl == 0) return clickALine;
+  return Zeiger == "Sprache" ? whyNotLower(SprachName[merkzahl], SprachStufe[merkzahl])
+                             : whyNotLower(WissensName[merkzahl], WissensStufe[merkzahl]);
+}
 
 }  // namespace bogenwerker

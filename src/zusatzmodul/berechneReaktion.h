@@ -1,7 +1,7 @@
 // The one rounding helper of steps 2 and 6.
 #pragma once
 
-#include "wizard/numbers.h"
+#include "values/numbers.h"
 
 namespace bogenwerker {
 
