@@ -156,7 +156,7 @@ void catalogues(std::string_view input) {
 // A whole wizard on the shipped data, fed with lines as the program without a screen gets them.
 void gestures(std::string_view input) {
   World world;
-  const std::size_t brought = fileNames().size();
+  const std::size_t brought = filesIn().size();
   promise(world.wizard.start(), "the shipped data can be played");
   while (!input.empty() && !world.wizard.runtime().isOver()) {
     const std::string reply = carryOut(world.wizard, takePiece(input, '\n')).value_or("ok");
@@ -167,7 +167,7 @@ void gestures(std::string_view input) {
     promise(visible == (world.wizard.runtime().isOver() ? 0 : 1), "one form at a time");
   }
   promise(world.dump().find('\n') == std::string::npos, "a state is one line");
-  promise(fileNames().size() <= brought + 7 + world.messages.size(), "no litter");
+  promise(filesIn().size() <= brought + 7 + world.messages.size(), "no litter");
 }
 
 }  // namespace

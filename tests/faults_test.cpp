@@ -1,7 +1,6 @@
 // Whatever fails in the middle of a gesture: the state is the one before it, and the same gesture then goes on.
 #include <gtest/gtest.h>
 
-#include <map>
 #include <new>
 
 #include "values/fault.h"
@@ -10,25 +9,16 @@
 namespace bogenwerker {
 namespace {
 
-std::map<std::string, std::string> allFiles() {
-  std::map<std::string, std::string> files;
-  for (const std::string& name : fileNames()) files[name] = fileBytes(name);
-  return files;
-}
-
 class Faults : public testing::TestWithParam<int> {};
 
 // Each gesture is tried again and again, one system call later each time, until it goes through undisturbed.
 TEST_P(Faults, LeaveTheGestureUndoneAndTheNextOneGoesOn) {
   const std::string character = fileBytes(SOURCE_DIR "/examples/zauberin/gestures.txt");
-  std::map<std::string, std::string> undisturbed;
-  {
-    World world;
-    ASSERT_TRUE(world.wizard.start());
-    world.play(character);
-    ASSERT_TRUE(world.wizard.runtime().isOver());
-    undisturbed = allFiles();
-  }
+  World undisturbed;
+  ASSERT_TRUE(undisturbed.wizard.start());
+  undisturbed.play(character);
+  ASSERT_TRUE(undisturbed.wizard.runtime().isOver());
+  const auto expected = filesIn();
   World world;
   ASSERT_TRUE(world.wizard.start());
   int failed = 0;
@@ -48,7 +38,7 @@ TEST_P(Faults, LeaveTheGestureUndoneAndTheNextOneGoesOn) {
   }
   EXPECT_GT(failed, 15);
   EXPECT_EQ(world.messages.size(), 1U);
-  EXPECT_EQ(allFiles(), undisturbed);
+  EXPECT_EQ(filesIn(), expected);
 }
 INSTANTIATE_TEST_SUITE_P(Errors, Faults, testing::Values(ENOENT, ENOSPC, EIO));
 
@@ -82,8 +72,7 @@ TEST(Files, AreReplacedWholeAndLeaveNoLitter) {
   const int calls = files.calls();
   ASSERT_GE(calls, 8);  // open, four writes, flush, close, rename
   for (int call = 0; call < calls; ++call) {
-    EXPECT_EQ(fileBytes("old.txt"), "new content") << call;
-    EXPECT_EQ(fileNames(), std::vector<std::string>{"old.txt"}) << call;
+    EXPECT_EQ(filesIn(), (std::map<std::string, std::string>{{"old.txt", "new content"}})) << call;
     files.failAt(call, ENOSPC);
     EXPECT_THROW(files.replace("old.txt", "not to come", Durability::onDisk), Fault) << call;
   }

@@ -83,8 +83,7 @@ std::pair<int, std::string> outcomeOf(const std::string& commands) {
 TEST(Process, TellsAScriptHowItEnded) {
   World world;
   ASSERT_TRUE(world.wizard.start());
-  std::filesystem::create_directory("other");
-  for (const std::string& file : fileNames()) std::filesystem::copy(file, "other/" + file);
+  std::filesystem::copy(SOURCE_DIR "/data", "other");
   const std::string character = SOURCE_DIR "/examples/tuersteher/gestures.txt";
   const std::vector<std::tuple<std::string, int, std::string>> rows = {
       {"$P </dev/null", 1, "fault In diesem Ordner läuft der Bogenwerker schon."},

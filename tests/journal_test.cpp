@@ -62,10 +62,8 @@ TEST(Journal, LeadsThroughAnyNumberOfEndsToTheSameFiles) {
       before = dumpOf(session.wizard);
       if (next < gestures.size() && random() % 3 == 0) writeBytes(file, fileBytes(file) + "type txt");
     }
-    std::map<std::string, std::string> all;
-    for (const std::string& name : fileNames()) all[name] = fileBytes(name);
-    if (round == 0) undisturbed = all;
-    ASSERT_EQ(all, undisturbed);
+    if (round == 0) undisturbed = filesIn();
+    ASSERT_EQ(filesIn(), undisturbed);
     ASSERT_EQ(folder.throws, 3);
   }
 }

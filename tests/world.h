@@ -8,6 +8,7 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <map>
 #include <random>
 #include <sstream>
 #include <string>
@@ -118,12 +119,12 @@ inline std::vector<std::string> splitLines(const std::string& text) {
   return lines;
 }
 
-// Names of all files in the current folder, sorted.
-inline std::vector<std::string> fileNames() {
-  std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(".")) names.push_back(entry.path().filename().string());
-  std::sort(names.begin(), names.end());
-  return names;
+// The bytes of every file in a folder, by its name.
+inline std::map<std::string, std::string> filesIn(const std::filesystem::path& folder = ".") {
+  std::map<std::string, std::string> files;
+  for (const auto& entry : std::filesystem::directory_iterator(folder))
+    files[entry.path().filename().string()] = fileBytes(entry.path().string());
+  return files;
 }
 
 inline void copyShippedData() { std::filesystem::copy(SOURCE_DIR "/data", "."); }

@@ -8,25 +8,17 @@
 namespace bogenwerker {
 namespace {
 
-using Folder = std::map<std::string, std::string>;
-
-Folder filesHere() {
-  Folder files;
-  for (const std::string& name : fileNames()) files[name] = fileBytes(name);
-  return files;
-}
-
 TEST(WholeCharacter, byMouseAndByKeyboardIsThatOfTheModel) {
   for (const Hands hands : {mouse, keyboard}) {
     const std::string script = Screen::scriptOf(hands.mouse ? "zauberin" : "tuersteher");
     World alone;
     EXPECT_TRUE(alone.wizard.start());
     alone.play(script);
-    const Folder expected = filesHere();
+    const auto expected = filesIn();
     const Screen screen;
     hands.play(script);
     EXPECT_TRUE(screen.over);
-    EXPECT_EQ(filesHere(), expected);
+    EXPECT_EQ(filesIn(), expected);
   }
 }
 
