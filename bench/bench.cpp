@@ -1,7 +1,10 @@
 // How long the wizard takes where catalogues and lists are full, each figure beside its floor. Files lie in
 // memory-backed storage where there is any, so that the figures are those of the program and not of a disk.
 #include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <unistd.h>
 
+#include <array>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
@@ -11,6 +14,7 @@
 #include "catalogues/check.h"
 #include "headless/gestures.h"
 #include "values/text.h"
+#include "wizard/journal.h"
 #include "wizard/wizard.h"
 
 namespace bogenwerker {
@@ -241,6 +245,38 @@ void WholeCharacters(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(WholeCharacters)->Unit(benchmark::kMicrosecond);
+
+// ---------------------------------------------------------------------------------------------------------------------
+
+// The line that the journal adds at a press, merely written.
+void WriteOneLine(benchmark::State& state) {
+  const Folder folder;
+  const std::string_view line = "click optRasseElf\n";
+  const int file = open("lines", O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
+  for (auto _ : state) {
+    if (write(file, line.data(), line.size()) < 0) state.SkipWithError("the line was not written");
+  }
+  close(file);
+}
+BENCHMARK(WriteOneLine);
+
+// A press that stays on its form, without and with a journal: the journal to cost no more than two bare writes.
+void PressAnOption(benchmark::State& state) {
+  const Folder folder;
+  Files files;
+  Journal journal(files);
+  const bool isKept = state.range(0) != 0;
+  Wizard wizard(isKept ? journal.around(quiet(files)) : quiet(files));
+  wizard.start();
+  if (isKept) journal.record(wizard.runtime(), [](std::string_view) {});
+  const std::array options = {Gesture{.control = "optRasseElf"}, Gesture{.control = "optRasseOrk"}};
+  std::size_t next = 0;
+  for (auto _ : state) {
+    if (wizard.runtime().play(options.at(next ^= 1)) != Outcome::through) state.SkipWithError("nothing was pressed");
+  }
+  if (isKept != journal.isKept()) state.SkipWithError("the journal was lost");
+}
+BENCHMARK(PressAnOption)->ArgName("journal")->Arg(0)->Arg(1);
 
 }  // namespace
 }  // namespace bogenwerker
