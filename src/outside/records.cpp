@@ -12,6 +12,13 @@ namespace {
 constexpr std::string_view lineEnds = "\r\n";
 const NumberLocale pointLocale;
 
+// %1 to %3 say where, %4 is what stands there.
+constexpr std::string_view pastEnd = "%1, Zeile %2, Feld %3: Hier endet die Datei mitten in einem Eintrag.";
+constexpr std::string_view openQuote = "%1, Zeile %2, Feld %3: Das Anführungszeichen am Ende fehlt.";
+constexpr std::string_view notWhole = "%1, Zeile %2, Feld %3: „%4“ ist keine ganze Zahl von -32768 bis 32767.";
+constexpr std::string_view notNumber = "%1, Zeile %2, Feld %3: „%4“ ist keine Zahl.";
+constexpr std::string_view notTruth = "%1, Zeile %2, Feld %3: „%4“ ist weder #TRUE# noch #FALSE#.";
+
 // Letters and digits, which most fields are made of, are told by the first comparison alone.
 bool endsField(char c) { return static_cast<unsigned char>(c) <= ',' && (c == ',' || c == '\n' || c == '\r'); }
 
@@ -24,7 +31,7 @@ std::string_view RecordReader::takeField() {
   const char* at = begin + position_;
   ++field_;
   fieldStart_ = position_;
-  if (at == end) throwPastEnd();
+  if (at == end) fail(pastEnd);
   while (at != end && *at == ' ') ++at;
   fieldStart_ = static_cast<std::size_t>(at - begin);
 
@@ -78,17 +85,17 @@ void RecordReader::take(Untyped& target) { take(target.text); }
 
 void RecordReader::take(Integer& target) {
   const std::string_view field = takeField();
-  target = number(parseInteger(field), field, "keine ganze Zahl von -32768 bis 32767");
+  target = number(parseInteger(field), field, notWhole);
 }
 
 void RecordReader::take(Single& target) {
   const std::string_view field = takeField();
-  target = number(parseSingle(field), field, "keine Zahl");
+  target = number(parseSingle(field), field, notNumber);
 }
 
 void RecordReader::take(Currency& target) {
   const std::string_view field = takeField();
-  target = number(parseCurrency(field), field, "keine Zahl");
+  target = number(parseCurrency(field), field, notNumber);
 }
 
 void RecordReader::take(bool& target) {
@@ -96,7 +103,7 @@ void RecordReader::take(bool& target) {
   const std::string_view word = field.substr(0, field.find_last_not_of(' ') + 1);
   if (word == "#TRUE#") target = true;
   else if (word == "#FALSE#") target = false;
-  else target = number(parseSingle(field), field, "weder #TRUE# noch #FALSE#") != 0;
+  else target = number(parseSingle(field), field, notTruth) != 0;
 }
 
 bool RecordReader::atLineStart() const {
@@ -107,13 +114,12 @@ void RecordReader::skipLine() {
   if (!atLineStart()) position_ += lineAt(bytes_, position_).size();
 }
 
-std::string RecordReader::place() const {
-  return std::string(file_) + ", Zeile " + std::to_string(lineOf(bytes_, fieldStart_)) + ", Feld " +
-         std::to_string(field_) + ": ";
+void RecordReader::fail(std::string_view sentence, std::string_view shown) const {
+  throw Fault(filled(sentence, {file_, std::to_string(lineOf(bytes_, fieldStart_)), std::to_string(field_), shown}));
 }
 
-void RecordReader::throwWrongType(std::string_view field, std::string_view kind) const {
-  if (field.find_first_of(lineEnds) != field.npos) throw Fault(place() + "Das Anführungszeichen am Ende fehlt.");
+void RecordReader::failAt(std::string_view field, std::string_view sentence) const {
+  if (field.find_first_of(lineEnds) != field.npos) fail(openQuote);
   constexpr std::size_t mostShown = 60;
   std::string shown = utf8FromCp1252(field);
   // Nobody sees a tab or a hard blank.
@@ -122,11 +128,8 @@ void RecordReader::throwWrongType(std::string_view field, std::string_view kind)
       shown.replace(at, std::strlen(hidden), visible);
   }
   const std::string_view prefix = utf8Prefix(shown, mostShown);
-  throw Fault(place() + "„" + std::string(prefix) + (prefix.size() < shown.size() ? "…" : "") + "“ ist " +
-              std::string(kind) + ".");
+  fail(sentence, std::string(prefix) + (prefix.size() < shown.size() ? "…" : ""));
 }
-
-void RecordReader::throwPastEnd() const { throw Fault(place() + "Hier endet die Datei mitten in einem Eintrag."); }
 
 std::string_view lineAt(std::string_view bytes, std::size_t position) {
   std::size_t end = bytes.find_first_of(lineEnds, position);

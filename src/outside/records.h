@@ -59,13 +59,13 @@ class RecordReader {
   void take(bool& target);
   void take(Untyped& target);
   template <class Number>
-  [[nodiscard]] Number number(std::optional<Number> parsed, std::string_view field, std::string_view kind) const {
-    if (!parsed) throwWrongType(field, kind);
+  [[nodiscard]] Number number(std::optional<Number> parsed, std::string_view field, std::string_view sentence) const {
+    if (!parsed) failAt(field, sentence);
     return *parsed;
   }
-  [[noreturn]] void throwWrongType(std::string_view field, std::string_view kind) const;
-  [[noreturn]] void throwPastEnd() const;
-  [[nodiscard]] std::string place() const;
+  // The sentences of records.cpp, filled in for the field that was read last.
+  [[noreturn]] void failAt(std::string_view field, std::string_view sentence) const;
+  [[noreturn]] void fail(std::string_view sentence, std::string_view shown = {}) const;
 
   std::string_view file_;
   std::string_view bytes_;
