@@ -134,8 +134,9 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     const fs::path own = ownFolder();
     const std::wstring kept = supply(own / L"share" / L"bogenwerker", folder);
     if (!kept.empty()) {
-      tell(L"Diese Dateien haben Sie geändert. Sie bleiben so; die neue Fassung liegt jeweils daneben, mit .neu am "
-           L"Ende:\n" + kept, MB_ICONINFORMATION);
+      const std::wstring stays =
+          L"Diese Dateien haben Sie geändert. Sie bleiben so; die neue Fassung liegt daneben, mit .neu am Ende:\n";
+      tell(stays + kept, MB_ICONINFORMATION);
     }
     start(own / L"bin" / L"bogenwerker.exe", folder);
     return 0;

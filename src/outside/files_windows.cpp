@@ -99,8 +99,8 @@ int Files::openFile(const char* path, Opening opening) {
   HANDLE file = INVALID_HANDLE_VALUE;
   const DWORD error = insist([&]() -> DWORD {
     // The last flag opens folders too, so that they are told as what they are.
-    file = CreateFileW(whole.c_str(), access, reading ? shareAll : FILE_SHARE_READ,
-                       nullptr, opening == Opening::toMake ? CREATE_NEW : OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    file = CreateFileW(whole.c_str(), access, reading ? shareAll : FILE_SHARE_READ, nullptr,
+                       opening == Opening::toMake ? CREATE_NEW : OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
     return file == INVALID_HANDLE_VALUE ? GetLastError() : ERROR_SUCCESS;
   });
   if (error != ERROR_SUCCESS) return fail(error);
