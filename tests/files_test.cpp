@@ -2,10 +2,7 @@
 #include "outside/files.h"
 
 #include <gtest/gtest.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <filesystem>
@@ -56,17 +53,12 @@ TEST(Files, LeaveWhatThePlayerProtectedAndKeepLinksAndModes) {
 
   std::filesystem::create_directory("folder.htm");
   EXPECT_EQ(mkfifo("pipe.txt", 0600), 0);
-  sockaddr_un address{AF_UNIX, "socket.txt"};
-  const int listening = socket(AF_UNIX, SOCK_STREAM, 0);
-  EXPECT_EQ(bind(listening, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-  close(listening);
   const auto write = [&files](const char* name) { files.replace(name, "new", Durability::untilPowerLoss); };
   const std::vector<std::pair<std::string, std::string>> rows = {
       {faultOf([&] { write("folder.htm"); }), "Unter diesem Namen gibt es schon einen Ordner."},
       {faultOf([&] { write("round.htm"); }), "ein Verweis, der im Kreis führt."},
       {faultOf([&] { (void)files.read("folder.htm"); }), "Unter diesem Namen liegt ein Ordner."},
       {faultOf([&] { (void)files.read("pipe.txt"); }), "keine gewöhnliche Datei."},
-      {faultOf([&] { (void)files.read("socket.txt"); }), "keine gewöhnliche Datei."},
       {(std::filesystem::create_directories("Bogenwerker.neu/full"), faultOf([&] { write("new.htm"); })),
        "„Bogenwerker.neu“ ist im Weg"}};
   for (const auto& [fault, text] : rows) EXPECT_NE(fault.find(text), std::string::npos) << fault << text;

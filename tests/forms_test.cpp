@@ -124,14 +124,5 @@ TEST_F(FormsTest, AFaultLeavesEverythingAsItWas) {
   EXPECT_EQ(second.shown(), "label|start|0|initial||0|---|kept");
 }
 
-TEST_F(FormsTest, ClosingTakesHiddenFormsAlong) {
-  second.setVisible(false);
-  EXPECT_TRUE(runtime.isUntouched());
-  EXPECT_EQ(form.one.choose(), through);
-  EXPECT_FALSE(runtime.isUntouched());
-  runtime.close();
-  EXPECT_TRUE(runtime.isOver() && runtime.visibleForm() == nullptr);
-}
-
 }  // namespace
 }  // namespace bogenwerker

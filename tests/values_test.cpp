@@ -111,15 +111,6 @@ TEST(Text, SortsAsAGermanReaderExpects) {
   std::sort(sorted.begin(), sorted.end(), [](auto& a, auto& b) { return germanSortKey(a) < germanSortKey(b); });
   EXPECT_EQ(sorted, names);
 }
-
-TEST(Text, IsFoundWhereverItStands) {
-  for (std::size_t at = 0; at < 600; ++at) {
-    std::string bytes(600, 'a');
-    bytes.replace(at, 3, "bab").resize(600);
-    EXPECT_EQ(findText(bytes, "bab", 0), bytes.find("bab"));
-    EXPECT_EQ(findText(bytes, "ba", 300), bytes.find("ba", 300));
-  }
-}
 // clang-format on
 
 // ---------------------------------------------------------------------------------------------------------------------
