@@ -4,7 +4,7 @@
 //   start; die 6; prio Elf Adept 18 40 D; points 3 3 3 3 3 3; skills; knowledge (these two spend all and go on); or
 //   FILE < LINE | LINE: writes a file, in code page 1252 and with CR LF; or
 //   NAME NAME.KEY = VALUE | VALUE: what controls of the visible form show, KEY as in the dump; or a FILE; message;
-//     form; forms, all that are loaded; table, a hash of the whole control table.
+//     form; forms, all that are loaded; table, a hash of the whole control table; slips, told of the catalogues.
 // A … in what is expected stands for anything.
 #pragma once
 
@@ -126,6 +126,7 @@ class Stage : public World {
 
   std::string shownBy(const std::string& names) {
     if (names == "message") return joined(std::exchange(messages, {}));
+    if (names == "slips") return wizard.slips().empty() ? "none" : joined(splitLines(wizard.slips()));
     std::string texts;
     for (const std::string& name : split(names, " ")) {
       Texts keys = split(name, ".");
