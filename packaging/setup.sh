@@ -4,7 +4,7 @@
 
 build_packages=(g++ cmake ninja-build nlohmann-json3-dev)
 desktop_packages=(qt6-base-dev cmark-gfm qt6-translations-l10n qt6-wayland fonts-dejavu-core)
-test_packages=(libgtest-dev libbenchmark-dev clang libclang-rt-dev python3 strace locales)
+test_packages=(libgtest-dev libbenchmark-dev clang libclang-rt-dev python3 locales)
 lint_packages=(clang-format-14 clang-tidy-14 shellcheck)
 package_packages=(dpkg-dev lintian desktop-file-utils appstream mandoc librsvg2-bin)
 browser_packages=(chromium chromium-driver firefox-esr python3-websocket poppler-utils fontconfig
