@@ -1,6 +1,6 @@
 #!/bin/sh
-# packages_test.sh BUILD_FOLDER VERSION: makes the packages, checks each by Debian's own rules, and plays what they hold from a folder of
-# its own, as a player with an empty home would after installing them and after an update.
+# packages_test.sh BUILD_FOLDER VERSION: makes the packages, checks each by Debian's own rules, and starts what they
+# hold as a player with an empty home would, after installing them and after an update.
 set -eu
 here=$(dirname "$(readlink -f "$0")")
 cd "$1"
@@ -23,28 +23,22 @@ done
 printf '#!/bin/sh\npwd\n' >"$root/usr/bin/bogenwerker"
 shared=$root/usr/share/bogenwerker
 home=$PWD/packages/"zu Hause"
-mkdir -p "$home"
-
-# expect TEXT ARGUMENT...: what the launcher says without a screen.
-expect() {
-  text=$1
-  shift
-  said=$(env -u DISPLAY -u WAYLAND_DISPLAY HOME="$home" "$root/usr/bin/bogenwerker-start" "$@" 2>&1) || true
-  # shellcheck disable=SC2254 # a pattern
-  case $said in $text) ;; *) echo "Expected $text, got $said"; exit 1 ;; esac
-}
 folder=$home/Bogenwerker
-expect "Neu im Ordner $folder: Bioware.txt*template.htm
-$folder"
+mkdir "$home"
+
+# expect TEXT [ARGUMENT]: what the launcher says without a screen.
+expect() {
+  said=$(env -u DISPLAY -u WAYLAND_DISPLAY HOME="$home" "$root/usr/bin/bogenwerker-start" ${2:+"$2"} 2>&1) || true
+  # shellcheck disable=SC2254 # a pattern
+  case $said in $1) ;; *) echo "Expected $1, got $said"; exit 1 ;; esac
+}
+expect "Neu im Ordner $folder: Bioware.txt*template.htm?$folder"
 expect "$folder"
 echo >>"$folder/Cyberware.txt"
 rm "$folder/Bioware.txt"
-expect "Neu im Ordner $folder: Bioware.txt
-$folder"
+expect "Neu im Ordner $folder: Bioware.txt?$folder"
 for file in Cyberware.txt Bioware.txt; do echo "neu" >>"$shared/$file"; done
-expect "Auf den neuen Stand gebracht: Bioware.txt
-Von Ihnen geändert und so geblieben: Cyberware.txt.*
-$folder"
+expect "Auf den neuen Stand gebracht: Bioware.txt?Von Ihnen geändert und so geblieben: Cyberware.txt.*?$folder"
 cmp "$shared/Cyberware.txt" "$folder/Cyberware.txt.neu"
 cmp "$shared/Bioware.txt" "$folder/Bioware.txt"
 rm "$folder/Cyberware.txt.neu"
