@@ -5,7 +5,6 @@ import os
 import re
 import subprocess
 import urllib.request
-from pathlib import Path
 
 import websocket
 
@@ -21,14 +20,13 @@ class Browser:
     """One session: a page open at a time, fonts of one world."""
 
     def __init__(self, name, world, folder):
-        self.folder = folder / f"{name} {world}"
+        self.name, self.commands, self.complaints = f"{name}, {world}", 0, []
+        self.folder = folder / self.name
         self.folder.mkdir()
         fonts = self.folder / "fonts.conf"
         fonts.write_text(FONTS % ("".join(f"<glob>*/{glob}</glob>" for glob in WORLDS[world]), folder))
         self.environment = {**os.environ, "FONTCONFIG_FILE": str(fonts)}
-        assert subprocess.run(["fc-list"], env=self.environment, capture_output=True, check=True).stdout, \
-            f"keine Schrift {world}"
-        self.name, self.commands, self.complaints = f"{name}, {world}", 0, []
+        assert subprocess.check_output(["fc-list"], env=self.environment), f"keine Schrift {world}"
         address = self.chromium() if name == "Chromium" else self.firefox()
         self.socket = websocket.create_connection(address, suppress_origin=True, timeout=300)
         if name == "Firefox":
@@ -50,25 +48,20 @@ class Browser:
                           "--remote-debugging-port=0") + "/session"
 
     def chromium(self):
-        port = self.start("chromedriver", "--port=0")
         arguments = ["--headless=new", "--disable-dev-shm-usage", "--hide-scrollbars"]
         arguments += ["--no-sandbox"] if os.geteuid() == 0 else []
         wanted = {"webSocketUrl": True, "goog:chromeOptions": {"args": arguments}}
-        request = urllib.request.Request(f"http://127.0.0.1:{port}/session",
-                                         json.dumps({"capabilities": {"alwaysMatch": wanted}}).encode())
-        with urllib.request.urlopen(request) as reply:
+        port, request = self.start("chromedriver", "--port=0"), {"capabilities": {"alwaysMatch": wanted}}
+        with urllib.request.urlopen(f"http://127.0.0.1:{port}/session", json.dumps(request).encode()) as reply:
             return json.load(reply)["value"]["capabilities"]["webSocketUrl"]
 
     def __call__(self, method, **params):
         self.commands += 1
         self.socket.send(json.dumps({"id": self.commands, "method": method, "params": params}))
-        while True:
-            message = json.loads(self.socket.recv())
-            if message.get("id") == self.commands:
-                assert message["type"] == "success", message
-                return message["result"]
-            if message.get("method") == "log.entryAdded":
-                self.complaints.append(message["params"]["text"])
+        while (message := json.loads(self.socket.recv())).get("id") != self.commands:
+            self.complaints.append(message["params"]["text"])
+        assert message["type"] == "success", message
+        return message["result"]
 
     def resize(self, width, height=1000):
         self("browsingContext.setViewport", context=self.context, viewport={"width": width, "height": height})
@@ -94,7 +87,6 @@ class Browser:
         return base64.b64decode(self("browsingContext.captureScreenshot", context=self.context)["data"])
 
     def close(self):
-        self("session.end") if "Firefox" in self.name else self("browser.close")
-        self.socket.close()
+        self("browser.close")
         self.process.terminate()
         self.process.wait()
