@@ -169,16 +169,6 @@ TEST(Records, FaultsNameFileLineAndField) {
   // clang-format on
 }
 
-TEST(Records, AreWrittenByTheByte) {
-  const TemporaryFolder folder;
-  Files files;
-  RecordWriter writer(files, "x.txt");
-  writer.write("Ork", "", Currency(90000), Integer(-3), Currency::ofTenThousandths(12300));
-  writer.write("Äpfel, grün", 6.0F - 0.7F, 0.5F, -0.25F);
-  writer.close();
-  EXPECT_EQ(fileBytes("x.txt"), "\"Ork\",\"\",90000,-3,1.23\r\n\"\xC4pfel, gr\xFCn\",5.3,0.5,-0.25\r\n");
-}
-
 // From one tick of the clock even, since no seed is used twice.
 TEST(Dice, AreFair) {
   std::array<int, 7> count{};
