@@ -65,10 +65,8 @@ TEST(Files, AreReplacedWholeAndLeaveNoLitter) {
   writeBytes("Bogenwerker.neu", "left by a run that was killed");
   files.mostPerWrite = 3;
   files.replace("old.txt", "old content", Durability::untilPowerLoss);
-  EXPECT_EQ(files.otherFlushes, 0);
   files.failAt(1000, EIO);
   files.replace("old.txt", "new content", Durability::onDisk);
-  EXPECT_EQ(files.otherFlushes, 1);
   const int calls = files.calls();
   ASSERT_GE(calls, 8);  // open, four writes, flush, close, rename
   for (int call = 0; call < calls; ++call) {

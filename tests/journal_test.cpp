@@ -106,10 +106,12 @@ TEST(Journal, CostsOneWriteAGestureAndNeverTheCharacter) {
   Session session(folder.throws);
   for (std::size_t i = 0; i < gestures.size(); ++i) {
     const Form* form = session.wizard.runtime().visibleForm();
+    const int flushes = session.files.otherFlushes;
     session.files.failAt(i == 50 ? 0 : 1000, ENOSPC);
     ASSERT_TRUE(session.play(gestures[i]));
     const bool staysOnForm = i > 0 && session.wizard.runtime().visibleForm() == form;
     EXPECT_TRUE(!staysOnForm || session.files.calls() == (i <= 50 ? 1 : 0)) << gestures[i];
+    EXPECT_TRUE(i == 0 || i > 50 || staysOnForm != (session.files.otherFlushes > flushes)) << gestures[i];
     EXPECT_EQ(session.told.empty(), i < 83) << gestures[i];  // where step 3 is left
   }
   EXPECT_EQ(session.told.find("nicht mehr gesichert"), session.told.rfind("nicht mehr gesichert"));
