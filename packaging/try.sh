@@ -26,7 +26,7 @@ say() { printf '\n== %s: %s\n' "$suite" "$*"; }
 wanted() { [[ $steps == *" $1 "* ]]; }
 as_player() { inside installed su - spieler -c "$1"; }
 
-place="/srv/Bögen & Werke"
+place="/srv/Bögen und Werke"
 inside built mkdir "$place"
 git archive HEAD | tar -x -C "$work/built$place"
 in_checkout() { inside built env -C "$place" "$@"; }
