@@ -67,7 +67,7 @@ def kill_program(path):
 
 
 def kill_windows(path):
-    hands = [*HANDS, "--gtest_also_run_disabled_tests", "--gtest_filter=*PlaysToTheEnd"]
+    hands = [*HANDS, "--play-to-the-end"]
     journal, equipment = path / "Bogenwerker.spiel", path / "Ausrüstung.txt"
     wanted, _ = quiet(path, SECOND)
     kills, (played, usual) = 0, quiet(path, "", hands)

@@ -30,7 +30,6 @@ class FaultyFiles final : public Files {
     failing_ = call;
     error_ = error;
   }
-  void heal() { failing_ = -1; }
   [[nodiscard]] int calls() const { return calls_; }
   std::size_t mostPerWrite = static_cast<std::size_t>(-1);
   int otherFlushes = 0;  // of folders, which may fail in silence, and of what grows: they do not count as calls

@@ -13,58 +13,64 @@
 
 namespace bogenwerker {
 
-// Side by side, in pixels. The first one is large enough for every window at any zoom.
-inline constexpr std::array<std::pair<int, int>, 5> screens = {
-    {{4200, 3000}, {1366, 768}, {1280, 720}, {1024, 768}, {1920, 1080}}};
 inline constexpr std::array forms = {"formPrioritäten",       "formAttributmonitor", "formAktionFertigkeit",
                                      "formWissensfertigkeit", "formAusrüstung",      "formNamenGeben",
                                      "formFeinschliff"};
 
-inline Look& look() {
-  static Look& shared = Look::dress();
-  return shared;
-}
+inline Look& look() { return static_cast<Look&>(*QApplication::style()); }
 
 inline FormWindow& shownWindow() {
-  const auto windows = QApplication::topLevelWidgets();
-  return *dynamic_cast<FormWindow*>(*std::find_if(windows.begin(), windows.end(), [](QWidget* window) {
-    return dynamic_cast<FormWindow*>(window) != nullptr && window->isVisible();
-  }));
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (auto* window = dynamic_cast<FormWindow*>(widget); window != nullptr && window->isVisible()) return *window;
+  }
+  throw std::logic_error("no window");
 }
 
-inline QWidget& shownWidget(std::string_view control) {
-  auto* widget = shownWindow().findChild<QWidget*>(toQt(control));
+template <class Widget = QWidget>
+Widget& shown(std::string_view control) {
+  auto* widget = shownWindow().findChild<Widget*>(toQt(control));
   return widget != nullptr ? *widget : throw std::logic_error("no such control: " + std::string(control));
 }
 
+inline std::string scriptOf(const std::string& name) {
+  return fileBytes(SOURCE_DIR "/examples/" + name + "/gestures.txt");
+}
+
 // A world on the screen, from the start on.
-struct Screen {
-  static std::string scriptOf(const std::string& name) {
-    return fileBytes(SOURCE_DIR "/examples/" + name + "/gestures.txt");
-  }
+struct Screen : private Observer {
   explicit Screen(std::string_view until = forms.front(), std::string gestures = scriptOf("zauberin"),
                   NumberLocale numbers = {",", "."})
       : world(std::move(numbers)), script(std::move(gestures)) {
     EXPECT_TRUE(world.wizard.start());
     desktop.show(world.wizard.runtime());
     playUntil(until);
+    world.wizard.runtime().attach(*this);
   }
-  ~Screen() {
+  ~Screen() override {
     desktop.zoomTo(100);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
-  // By gestures of the model, window after window.
+  // By gestures of the model, window after window. Each comes to rest.
   void playUntil(std::string_view form) {
     for (; this->form().name() != form; script.erase(0, script.find('\n') + 1)) {
-      const auto gesture = parseGesture(script.substr(0, script.find('\n')));
-      if (gesture) world.wizard.runtime().play(*gesture);
+      world.play(script.substr(0, script.find('\n')));
     }
-    QApplication::processEvents();
+    int rounds = 0;
+    while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) ASSERT_LT(++rounds, 100);
+    clicks = 0;
+  }
+  void gestureEnded(const Gesture& gesture, Outcome /*outcome*/) override {
+    if (gesture.verb != Gesture::Verb::type) ++clicks;
   }
   [[nodiscard]] Form& form() { return *world.wizard.runtime().visibleForm(); }
+  template <class Kind>
+  Kind& model(std::string_view control) {
+    return dynamic_cast<Kind&>(*form().find(control));
+  }
 
   World world;
   std::string script;
+  int clicks = 0;  // and picks, that reached a control of this form
   bool over = false;
   Desktop desktop{look(), [this] { over = true; }};
 };
@@ -92,15 +98,6 @@ inline void typeKeys(const QString& text) {
   keep("type", text);
   for (const QChar character : text) sendKey(QEvent::KeyPress, 0, QString(character));
 }
-// As the system tells of a key that is held, and not let go of yet.
-inline void holdKey(int key) {
-  sendKey(QEvent::KeyPress, key);
-  for (int i = 0; i < 20; ++i) {
-    QApplication::processEvents();
-    sendKey(QEvent::KeyRelease, key, {}, true);
-    sendKey(QEvent::KeyPress, key, {}, true);
-  }
-}
 
 // Answers the next message box from within.
 inline void whenBoxOpens(std::function<void(QMessageBox&)> answer) {
@@ -110,90 +107,79 @@ inline void whenBoxOpens(std::function<void(QMessageBox&)> answer) {
   };
   QMetaObject::invokeMethod(qApp, open, Qt::QueuedConnection);
 }
+inline auto pressing(const char* button) {
+  return [button](QMessageBox& box) {
+    for (auto* each : box.buttons()) {
+      if (each->text() == button) each->click();
+    }
+  };
+}
 
-struct Hands {
-  // Every line of the script, on whatever window is visible by then.
-  void play(const std::string& script) const {
-    for (const std::string& line : splitLines(script)) {
-      const auto gesture = parseGesture(line);
-      if (!gesture) continue;
-      QWidget& control = shownWidget(gesture->control);
-      ASSERT_TRUE(control.isEnabled()) << line;
-      if (!mouse) keep("window", control.window()->windowTitle());
-      if (gesture->verb == Gesture::Verb::click) click(control);
-      if (gesture->verb == Gesture::Verb::type) type(control, toQt(gesture->text));
-      if (gesture->verb == Gesture::Verb::pick) pick(control, toQt(gesture->text));
-      if (gesture->verb == Gesture::Verb::select) select(control, static_cast<int>(gesture->index));
-      QApplication::processEvents();
-    }
+// At least once, since a text is selected on arrival. A group of options is one stop.
+inline void tabTo(QWidget& control) {
+  const QObject* group = control.inherits("QRadioButton") ? control.parent() : &control;
+  for (int presses = 0; presses < 60; ++presses) {
+    key(Qt::Key_Tab);
+    if (const auto* focus = QApplication::focusWidget(); focus == &control || focus->parent() == group) return;
   }
-  void click(QWidget& control) const {
-    const QPoint middle = control.rect().center();  // an option takes clicks only where it shows something
-    const QPoint point(control.inherits("QRadioButton") ? 8 : middle.x(), middle.y());
-    if (mouse) return QTest::mouseClick(&control, Qt::LeftButton, {}, point);
-    if (QApplication::focusWidget() != &control) tabTo(control);
-    for (int presses = 0; QApplication::focusWidget() != &control && presses < 20; ++presses) {
-      const QPoint way = control.geometry().center() - QApplication::focusWidget()->geometry().center();
-      if (way.y() != 0) key(way.y() > 0 ? Qt::Key_Down : Qt::Key_Up);
-      else key(way.x() > 0 ? Qt::Key_Right : Qt::Key_Left);
-    }
-    key(Qt::Key_Space);
+  ADD_FAILURE() << "Tab does not reach " << fromQt(control.objectName());
+}
+
+using Hands = void (*)(QWidget& control, const Gesture& gesture);
+
+// A gesture as keys alone. What is picked is typed whole.
+inline void byKeyboard(QWidget& control, const Gesture& gesture) {
+  keep("window", control.window()->windowTitle());
+  if (gesture.verb != Gesture::Verb::click || QApplication::focusWidget() != &control) tabTo(control);
+  if (gesture.verb == Gesture::Verb::type || gesture.verb == Gesture::Verb::pick) typeKeys(toQt(gesture.text));
+  if (gesture.verb == Gesture::Verb::pick) key(Qt::Key_Return);
+  if (auto* list = qobject_cast<QListView*>(&control)) {
+    const int line = static_cast<int>(gesture.index);
+    while (list->currentIndex().row() != line) key(list->currentIndex().row() < line ? Qt::Key_Down : Qt::Key_Up);
   }
-  // In place of what stands there: a starting text gives way; the mouse marks any other by a triple click.
-  void type(QWidget& field, const QString& text) const {
-    if (!mouse) tabTo(field);
-    else QTest::mouseClick(&field, Qt::LeftButton);
-    if (mouse && !dynamic_cast<QLineEdit&>(field).hasSelectedText()) {
-      QTest::mouseDClick(&field, Qt::LeftButton);
-      QTest::mouseClick(&field, Qt::LeftButton);
-    }
-    typeKeys(text);
+  for (int presses = 0; control.inherits("QRadioButton") && QApplication::focusWidget() != &control; ++presses) {
+    ASSERT_LT(presses, 20) << gesture.control;
+    const QPoint way = control.geometry().center() - QApplication::focusWidget()->geometry().center();
+    if (way.y() != 0) key(way.y() > 0 ? Qt::Key_Down : Qt::Key_Up);
+    else key(way.x() > 0 ? Qt::Key_Right : Qt::Key_Left);
   }
-  // By keyboard out of the completions, by a part of the name in other letters.
-  void pick(QWidget& box, const QString& entry) const {
-    auto& combo = dynamic_cast<QComboBox&>(box);
-    if (mouse) {
-      QTest::mouseClick(&combo, Qt::LeftButton, {}, {combo.width() - 8, combo.height() / 2});
-      QApplication::processEvents();
-      return select(*combo.view(), combo.findText(entry));
-    }
-    tabTo(box);
-    typeKeys(entry.mid(1).toLower());
-    const auto& completions = dynamic_cast<QListView&>(*QApplication::activePopupWidget());
-    while (completions.model()->rowCount() > 1 && completions.currentIndex().data().toString() != entry) {
-      key(Qt::Key_Down);
-      ASSERT_TRUE(completions.currentIndex().isValid()) << fromQt(entry);
-    }
-    key(Qt::Key_Return);
-    box.window()->activateWindow();  // the offscreen platform does not hand it back when a popup closes
+  if (gesture.verb == Gesture::Verb::click || gesture.verb == Gesture::Verb::select) key(Qt::Key_Space);
+  control.window()->activateWindow();  // the offscreen platform does not hand it back when a popup closes
+}
+
+inline void clickLine(QAbstractItemView& list, int line) {
+  list.scrollTo(list.model()->index(line, 0));
+  const QPoint middle = list.visualRect(list.model()->index(line, 0)).center();
+  QTest::mouseMove(list.viewport(), middle);
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, middle);
+}
+
+// By mouse, but for what is typed: in place of what stands there; a starting text gives way by itself.
+inline void byMouse(QWidget& control, const Gesture& gesture) {
+  auto* list = qobject_cast<QListView*>(&control);
+  if (list != nullptr) return clickLine(*list, static_cast<int>(gesture.index));
+  // An option takes clicks only where it shows something, and a box opens at its arrow.
+  const int x = gesture.verb == Gesture::Verb::pick ? control.width() - 8 : 8;
+  QTest::mouseClick(&control, Qt::LeftButton, {}, {x, control.height() / 2});
+  QApplication::processEvents();
+  auto* box = qobject_cast<QComboBox*>(&control);
+  if (gesture.verb == Gesture::Verb::pick) clickLine(*box->view(), box->findText(toQt(gesture.text)));
+  if (gesture.verb != Gesture::Verb::type) return;
+  auto* field = box != nullptr ? box->lineEdit() : qobject_cast<QLineEdit*>(&control);
+  if (!field->hasSelectedText()) field->selectAll();
+  typeKeys(toQt(gesture.text));
+}
+
+// Every line of a script, on whatever window is visible by then.
+inline void play(const std::string& script, Hands hands = byMouse) {
+  for (const std::string& line : splitLines(script)) {
+    const auto gesture = parseGesture(line);
+    if (!gesture) continue;
+    auto& control = shown(gesture->control);
+    ASSERT_TRUE(control.isEnabled()) << line;
+    hands(control, *gesture);
     QApplication::processEvents();
   }
-  void select(QWidget& list, int line) const {
-    auto& view = dynamic_cast<QAbstractItemView&>(list);
-    if (!mouse) {
-      tabTo(view);
-      while (view.currentIndex().row() != line) key(view.currentIndex().row() < line ? Qt::Key_Down : Qt::Key_Up);
-      return key(Qt::Key_Space);
-    }
-    view.scrollTo(view.model()->index(line, 0));
-    const QPoint middle = view.visualRect(view.model()->index(line, 0)).center();
-    QTest::mouseMove(view.viewport(), middle);
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, middle);
-  }
-  // At least once, since a text is selected on arrival. A group of options is one stop.
-  static void tabTo(QWidget& control) {
-    const auto isThere = [&control](const QWidget* focus) {
-      const bool options = focus->inherits("QRadioButton") && control.inherits("QRadioButton");
-      return focus == &control || (options && focus->parent() == control.parent());
-    };
-    int presses = 0;
-    do key(Qt::Key_Tab);
-    while (!isThere(QApplication::focusWidget()) && ++presses < 60);
-    ASSERT_LT(presses, 60) << "Tab does not reach " << fromQt(control.objectName());
-  }
-  bool mouse;
-};
-inline constexpr Hands mouse{true};
-inline constexpr Hands keyboard{false};
+}
 
 }  // namespace bogenwerker
