@@ -3,13 +3,14 @@
 # front end the other.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-rooms=(values outside forms catalogues zusatzmodul finish equipment skills attributes priorities wizard headless desktop)
+rooms=(values outside forms catalogues zusatzmodul finish equipment skills attributes priorities wizard headless desktop launcher)
 
 allowed="" bad=0
 for room in "${rooms[@]}"; do
   allowed+="|$room"
   may=${allowed#|}
   [[ $room != desktop ]] || may=${may/|headless/}
+  [[ $room != launcher ]] || may=launcher
   grep -HnoE '^#include "[a-z]+/' -r "src/$room" | grep -vE "\"($may)/" && bad=1
 done
 for folder in src/*/; do
