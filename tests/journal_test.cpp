@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "world.h"
 
 namespace bogenwerker {
@@ -42,30 +40,24 @@ struct Session {
                                 .throwDie = [this] { return ++fallen % 6 + 1; }})};
 };
 
-TEST(Journal, LeadsThroughAnyNumberOfEndsToTheSameFiles) {
-  std::map<std::string, std::string> undisturbed;
-  std::mt19937 random(11);
-  for (int round = 0; round < 16; ++round) {
-    Folder folder;
-    std::string before;
-    for (std::size_t next = 0; next < gestures.size();) {
-      Session session(folder.throws);
-      ASSERT_TRUE(next == 0 || dumpOf(session.wizard) == before) << gestures[next] << session.told;
-      for (auto left = round == 0 ? 1000 : random() % 30 + 1; left > 0 && next < gestures.size(); --left) {
-        if (round > 0 && gestures[next] == "click cmdGoAhead" && random() % 2 == 0) {
-          session.files.failAt(0, ENOSPC);  // by then the dice have fallen
-          session.play(gestures[next]);
-          if (random() % 2 == 0) break;
-        }
-        ASSERT_TRUE(session.play(gestures[next++]));
-      }
-      before = dumpOf(session.wizard);
-      if (next < gestures.size() && random() % 3 == 0) writeBytes(file, fileBytes(file) + "type txt");
+TEST(Journal, GoesOnWhereTheCharacterStoodWithTheDiceThatFell) {
+  Folder folder;
+  std::string before;
+  int passages = 0;
+  for (std::size_t next = 0; next < gestures.size();) {
+    Session session(folder.throws);
+    ASSERT_TRUE(next == 0 || dumpOf(session.wizard) == before) << gestures[next] << session.told;
+    for (const std::size_t end = std::min(next + 7, gestures.size()); next < end; ++next) {
+      const bool fails = gestures[next] == "click cmdGoAhead" && ++passages % 2 == 1;
+      if (fails) session.files.failAt(0, ENOSPC);  // by then the dice have fallen
+      ASSERT_TRUE(session.play(gestures[next]));
+      if (fails) break;
     }
-    if (round == 0) undisturbed = filesIn();
-    ASSERT_EQ(filesIn(), undisturbed);
-    ASSERT_EQ(folder.throws, 3);
+    before = dumpOf(session.wizard);
+    if (next < gestures.size()) writeBytes(file, fileBytes(file) + "type txt");  // torn by a loss of power
   }
+  EXPECT_EQ(folder.throws, 3);
+  EXPECT_EQ(fileBytes(file), "");
 }
 
 TEST(Journal, OfAnyContentIsPlayedOrToldOf) {
