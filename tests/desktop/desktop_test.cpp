@@ -1,4 +1,5 @@
 // The wizard in its windows, from the first to the last, and what they tell and ask beside the forms.
+#include <regex>
 #include <set>
 
 #include "desktop/program.h"
@@ -55,15 +56,11 @@ TEST(EveryForm, goesByTabIsNamedAndAsksBeforeItCloses) {
     screen.playUntil(form);
     expectReached(screen.form());
     if (form == forms.front()) continue;
-    whenBoxOpens([](QMessageBox& box) {
-      EXPECT_EQ(box.text(), QStringLiteral("Charakter verwerfen?"));
-      EXPECT_EQ(box.defaultButton()->text(), QStringLiteral("Weiterspielen"));
-      QTest::keyClick(&box, Qt::Key_Escape);
-    });
+    whenBoxOpens("Weiterspielen", [](auto& box) { EXPECT_EQ(box.defaultButton()->text(), "Weiterspielen"); });
     shownWindow().close();
     EXPECT_FALSE(screen.over);
   }
-  whenBoxOpens(pressing("Verwerfen"));
+  whenBoxOpens("Verwerfen");
   shownWindow().close();
   EXPECT_TRUE(screen.over);
 }
@@ -79,13 +76,13 @@ TEST(Windows, aStepStandsWhereTheLastOneStoodAndLooksAsTheKeysSay) {
   EXPECT_EQ(shownWindow().size(), before);
   for (const int grey : {24, 128}) {
     key(Qt::Key_F8);
-    QApplication::processEvents();
+    comeToRest();
     EXPECT_EQ(shown("txtEquipment").palette().color(QPalette::Base), QColor(grey, grey, grey));
   }
   for (int i = 0; i < 20; ++i) key(Qt::Key_Minus, Qt::ControlModifier);
   EXPECT_EQ(look().zoom(), 75);
   play("click cmdGoAhead");
-  EXPECT_EQ(shown<QLineEdit>("txtName").selectedText(), QStringLiteral("Name des Charakters"));
+  EXPECT_EQ(shown<QLineEdit>("txtName").selectedText(), "Name des Charakters");
   play("click cmdOkay");
   EXPECT_EQ(shownWindow().pos(), QPoint(140, 130));
 }
@@ -108,14 +105,11 @@ TEST(HeldKeys, pressOneButtonOnceAndDismissNoMessage) {
   auto& button = shown("cmdErzeugeHTML");
   button.setFocus();
   hold(Qt::Key_Return);
-  EXPECT_EQ(screen.clicks, 1);
+  EXPECT_EQ(screen.heard.size(), 1U);
   screen.world.showMessage = [&](Message kind, std::string_view text) { screen.desktop.showMessage(kind, text); };
   for (const bool fails : {true, false}) {
     screen.world.files.failAt(fails ? 0 : -1, EACCES);
-    button.window()->activateWindow();
-    QApplication::processEvents();
-    sendKey(QEvent::KeyRelease, Qt::Key_Return);
-    whenBoxOpens([&](QMessageBox& box) {
+    whenBoxOpens({}, [&](QMessageBox& box) {
       EXPECT_EQ(box.icon(), fails ? QMessageBox::Warning : QMessageBox::Information);
       EXPECT_TRUE(box.text().contains(toQt(fails ? "Prioritäten.txt" : "Fertig!"))) << fromQt(box.text());
       EXPECT_EQ(box.textFormat(), Qt::PlainText);
@@ -124,6 +118,7 @@ TEST(HeldKeys, pressOneButtonOnceAndDismissNoMessage) {
       sendKey(QEvent::KeyRelease, Qt::Key_Return);
       key(Qt::Key_Return);
     });
+    QTest::keyRelease(&button, Qt::Key_Return);
     QTest::keyPress(&button, Qt::Key_Return);
     EXPECT_EQ(screen.over, !fails);
   }
@@ -149,14 +144,158 @@ TEST(Program, isInterruptedByItsClosingQuestionAndGoesOn) {
   for (const bool goesOn : {false, true}) {
     bool over = false;
     Program program(look(), {}, [&over] { over = true; });
-    if (goesOn) whenBoxOpens(pressing("Weiterspielen"));
+    if (goesOn) whenBoxOpens("Weiterspielen");
     EXPECT_EQ(program.begin(), Program::Beginning::shown);
     play(goesOn ? "click optAdept" : "click optRasseOrk");
     EXPECT_TRUE(shown<QRadioButton>("optRasseOrk").isChecked());
-    whenBoxOpens(pressing(goesOn ? "Verwerfen" : "Unterbrechen"));
+    whenBoxOpens(goesOn ? "Verwerfen" : "Unterbrechen");
     shownWindow().close();
     EXPECT_TRUE(over);
     EXPECT_EQ(std::filesystem::exists(Journal::fileName), !goesOn);
+  }
+}
+
+TEST(Fields, aBoxIsPickedByWhoeverMeansAnEntryOnce) {
+  Screen screen;
+  std::string rows = "Zwilling,1\r\nZwilling,1\r\n";
+  for (int i = 0; i < 28; ++i) rows += "Eintrag " + std::to_string(i) + ",1\r\n";
+  writeBytes("Connection.txt", rows);
+  screen.playUntil("formAusrüstung");
+  auto& box = shown<QComboBox>("cmbConnection");
+  using Row = std::tuple<std::string, std::vector<int>, std::string>;
+  for (const auto& [typed, keys, heard] :
+       std::vector<Row>{{"Eintrag 2", {Qt::Key_Escape, Qt::Key_Tab}, "type cmbConnection Eintrag 2"},
+                        {"Eintrag 2", {Qt::Key_Return}, "pick cmbConnection Eintrag 2"},
+                        {"trag 27", {Qt::Key_Return}, "pick cmbConnection Eintrag 27"},
+                        {"trag 2", {Qt::Key_Return}, "type cmbConnection trag 2"},
+                        {"TRAG 2", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}, "pick cmbConnection Eintrag 20"},
+                        {"TRAG 2", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Escape}, "type cmbConnection TRAG 2"}}) {
+    shown("txtEquipment").setFocus();
+    play("type cmbConnection " + typed);
+    for (const int pressed : keys) key(pressed);
+    EXPECT_EQ(screen.heard.back(), heard);
+    EXPECT_EQ(box.currentText(), toQt(heard).mid(19));
+  }
+  // Every pick is a click, that of the picked entry too; so is every step by key, through two entries of one name.
+  screen.heard.clear();
+  play("pick cmbConnection Zwilling\npick cmbConnection Zwilling");
+  box.setFocus();
+  for (const int pressed : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Up}) key(pressed);
+  QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&box, &wheel);
+  EXPECT_EQ(screen.heard.size(), 5U);
+  EXPECT_EQ(box.currentIndex(), 1);
+  const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&box);
+  EXPECT_EQ(spoken->text(QAccessible::Name) + spoken->text(QAccessible::Value), "ConnectionZwilling");
+}
+
+TEST(Fields, typedTextPassesTheGateAndCanBeTakenBack) {
+  const Screen screen("formAusrüstung");
+  auto& field = shown<QLineEdit>("txtEquipment");
+  play("type txtEquipment ab");  // in place of the starting text
+  field.setCursorPosition(1);
+  QApplication::clipboard()->setText("x\n\"u\u0308");  // an umlaut in two pieces
+  key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(field.text(), "ax 'üb");
+  for (const char* before : {"ax 'üb", "ab"}) {
+    EXPECT_EQ(screen.heard.back(), std::string("type txtEquipment ") + before);
+    key(Qt::Key_Z, Qt::ControlModifier);
+  }
+  QAccessible::queryAccessibleInterface(&field)->setText(QAccessible::Value, "gesagt");
+  EXPECT_EQ(screen.heard.back(), "type txtEquipment gesagt");
+  EXPECT_TRUE(field.createStandardContextMenu()->actions().front()->text().startsWith("&Rückgängig"));
+}
+
+TEST(Fields, everyClickOnALineIsOneAndTheListStaysWhereItWasScrolledTo) {
+  Screen screen("formAusrüstung");
+  auto& list = shown<QListView>("lstAusrüstung");
+  const auto fill = [&] {
+    auto& lines = dynamic_cast<ListBox&>(*screen.form().find("lstAusrüstung"));
+    lines.clear();
+    for (int i = 0; i < 50; ++i) lines.addItem("Zeile");
+    play("type txtEquipment Neues");  // with a gesture, the windows hear of it
+    list.setFocus();
+    screen.heard.clear();
+  };
+  fill();
+  play("select lstAusrüstung 3\nselect lstAusrüstung 3");
+  for (const int pressed : {Qt::Key_Down, Qt::Key_Space}) key(pressed);
+  EXPECT_EQ(screen.heard.back(), "select lstAusrüstung 4");
+  const auto middle = [&list](int line) { return list.visualRect(list.model()->index(line, 0)).center(); };
+  QTest::mousePress(list.viewport(), Qt::LeftButton, {}, middle(1));
+  QTest::mouseMove(list.viewport(), middle(3));
+  QTest::mouseRelease(list.viewport(), Qt::LeftButton, {}, middle(3));
+  EXPECT_EQ(screen.heard.size(), 5U);
+  EXPECT_TRUE(list.selectionModel()->isSelected(list.model()->index(1, 0)));
+
+  play("select lstAusrüstung 30");
+  list.verticalScrollBar()->setValue(7);  // away from the selected line
+  fill();
+  EXPECT_FALSE(list.selectionModel()->hasSelection());
+  EXPECT_EQ(list.verticalScrollBar()->value(), 7);
+  key(Qt::Key_Down);  // by keyboard, the line is still at hand
+  EXPECT_EQ(screen.heard.back(), "select lstAusrüstung 30");
+}
+
+TEST(Fields, optionsAreSwitchedInAnyWayAndCaptionsArePlain) {
+  Screen screen;
+  play("click optRessA");
+  key(Qt::Key_Down);
+  auto* spoken = QAccessible::queryAccessibleInterface(&shown("optRessA"))->actionInterface();
+  spoken->doAction(QAccessibleActionInterface::toggleAction());
+  EXPECT_EQ(screen.heard, (std::vector<std::string>{"click optRessA", "click optRessB", "click optRessA"}));
+  screen.playUntil("formAusrüstung");
+  const auto& label = shown<QLabel>("lblEssenz");
+  const int width = shownWindow().width();
+  const std::string caption = "<b>" + std::string(200, '+');
+  dynamic_cast<Label&>(*screen.form().find("lblEssenz")).setCaption(caption);
+  play("type txtEquipment Neues");
+  EXPECT_GT(shownWindow().width(), width);  // a caption that grows takes the window along
+  EXPECT_EQ(label.textFormat(), Qt::PlainText);
+  EXPECT_EQ(label.accessibleName(), toQt("Essenz: " + caption));
+}
+
+// LC_ALL, LC_NUMERIC and LANG, an amount that is typed, and what is left of 400000.
+// clang-format off
+const std::vector<std::array<std::string, 5>> rows = {
+    {"C",                "de_DE.UTF-8", "de_DE.UTF-8", "1000.5",       "398999.5"},
+    {"C.UTF-8",          "",            "",            "1,000",        "400000"},
+    {"de_DE.UTF-8",      "C",           "C",           "1.000,5",      "398999,5"},
+    {"de_AT.ISO-8859-1", "",            "",            "1.000,5",      "398999,5"},
+    {"",                 "de_CH.UTF-8", "de_DE.UTF-8", "1'000.5",      "398999.5"},
+    {"",                 "",            "de_CH.UTF-8", "1’000.5",      "398999.5"},
+    {"fr_FR.UTF-8",      "",            "",            "1\u202F000,5", "398999,5"},
+    {"fr_FR.ISO-8859-1", "",            "",            "−1 000,5",     "401000,5"},
+    {"ar_EG.UTF-8",      "",            "",            "1,000.5",      "398999.5"},
+    {"ps_AF.UTF-8",      "",            "",            "12٫5",         "400000"},
+    {"ps_AF.UTF-8",      "",            "",            "1000.5",       "398999.5"},
+    {"de.UTF-8",         "",            "",            "1.000,5",      "398999,5"},  // these two are not installed
+    {"de_LI.UTF-8",      "de_DE.UTF-8", "",            "1'000.5",      "398999.5"}};
+// clang-format on
+
+TEST(Locales, bothFrontEndsTakeAndShowTheSameAmounts) {
+  const TemporaryFolder locales;  // built here, as a machine may have none of them
+  const auto build =
+      "for each in de_DE.UTF-8 de_AT.ISO-8859-1 de_CH.UTF-8 fr_FR.UTF-8 fr_FR.ISO-8859-1 ar_EG.UTF-8 "
+      "ps_AF.UTF-8; do localedef -i ${each%.*} -f ${each#*.} ./$each || exit; done >log 2>&1";
+  if (std::system(build) != 0) GTEST_SKIP() << "this machine builds no locales: " << fileBytes("log");
+  qputenv("LOCPATH", QDir::currentPath().toUtf8());
+  for (const auto& [all, numeric, language, typed, left] : rows) {
+    SCOPED_TRACE(all + numeric + language + " " + typed);
+    qputenv("LC_ALL", all.c_str());
+    qputenv("LC_NUMERIC", numeric.c_str());
+    qputenv("LANG", language.c_str());
+    const std::string zauberin = scriptOf("zauberin");
+    const std::string buys = zauberin.substr(0, zauberin.find("# Schritt 5")) + "type txtEquipment A\n" +
+                             "type txtEquipmentKosten " + typed + "\nclick cmdAddEquipment\n";
+    const World world;
+    writeBytes("script", buys + "dump\n");
+    EXPECT_EQ(std::system(HEADLESS " <script >replies"), 0);
+    EXPECT_TRUE(std::regex_search(fileBytes("replies"), std::regex(R"("lblMoney"[^}]*"caption":")" + left + '"')));
+    Program program(look(), {}, {});
+    EXPECT_EQ(program.begin(), Program::Beginning::shown);
+    play(buys);
+    EXPECT_EQ(shown<QLabel>("lblMoney").text(), toQt(left));
   }
 }
 

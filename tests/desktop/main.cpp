@@ -7,7 +7,9 @@ namespace {
 
 // Goes on behind as many gestures as the journal in the current folder holds; what was typed may be typed again.
 bool playToTheEnd() {
-  const auto counts = [](const std::string& line) { return !line.starts_with('#') && !line.starts_with("type "); };
+  const auto counts = [](const std::string& line) {
+    return !line.empty() && line[0] != '#' && !line.starts_with("type ");
+  };
   const auto done = splitLines(fileBytes(std::string(Journal::fileName)));
   std::string script = scriptOf("zauberin");
   for (auto left = std::count_if(done.begin(), done.end(), counts); left > 0; script.erase(0, script.find('\n') + 1)) {
@@ -16,12 +18,12 @@ bool playToTheEnd() {
   bool over = false;
   Program program(
       look(), [](std::string_view /*sheet*/) {}, [&over] { over = true; });
-  if (std::any_of(done.begin(), done.end(), parseGesture)) whenBoxOpens(pressing("Weiterspielen"));
+  if (std::any_of(done.begin(), done.end(), parseGesture)) whenBoxOpens("Weiterspielen");
   if (program.begin() != Program::Beginning::shown) return false;
   QApplication::processEvents();
   const auto last = script.find("click cmdErzeugeHTML");
   play(script.substr(0, last));
-  whenBoxOpens(pressing("OK"));
+  whenBoxOpens("OK");
   play(script.substr(last));
   return over;
 }
