@@ -65,7 +65,7 @@ class Files {
   static std::int64_t sizeOf(int file);
   static void removeFile(const char* path);
   // Where the name leads: itself, or what a symbolic link stands for, there yet or not. Empty and errno for a circle.
-  static std::string followLinks(std::string name);
+  static std::string followLinks(const std::string& name);
   // What stands behind a failure to open or to make a file, where the number alone would mislead.
   static int causeOf(int error, const std::string& path, Opening opening);
   // A new name has to reach the disk too. Some file systems refuse to flush a folder; that is no loss.

@@ -78,7 +78,7 @@ int Files::copyMode(int file, const char* from) {
 
 void Files::removeFile(const char* path) { unlink(path); }
 
-std::string Files::followLinks(std::string name) {
+std::string Files::followLinks(const std::string& name) {
   std::filesystem::path path(name);
   for (int links = 0; links < 40; ++links) {
     std::error_code isNoLink;

@@ -146,7 +146,7 @@ std::int64_t Files::sizeOf(int file) {
 
 void Files::removeFile(const char* path) { DeleteFileW(pathOf(path).c_str()); }
 
-std::string Files::followLinks(std::string name) { return name; }
+std::string Files::followLinks(const std::string& name) { return name; }
 
 int Files::causeOf(int error, const std::string& /*path*/, Opening opening) {
   return opening == Opening::toMake && error == EACCES ? cause::folderProtected : error;
