@@ -1,5 +1,7 @@
 #!/usr/bin/env python3
-"""The catalogues, the template and the glossary as players get them. data_test.py PROGRAM SOURCE_DIR
+"""The catalogues, the template, the glossary and the handbook as players get them.
+
+data_test.py PROGRAM SOURCE_DIR [FOLDER_OF_THE_HANDBOOK]
 
 Every name tells its row's price or effects and fits its box; every row is for sale and explained. That no name stands
 twice and no price is beyond every purse the program's own search for slips tells, and the placeholders the browsers.
@@ -80,3 +82,12 @@ offered = [entry for kind in ("Lebensstil", "Connection", "Cyberdecks", "Cyberwa
 told = re.findall(r"^- \*\*(.*?)\*\*: ", (SOURCE / "docs/glossar.md").read_text("utf-8"), re.M)
 assert offered == told, [pair for pair in zip(offered, told) if pair[0] != pair[1]][:1]
 assert Counter(offered) == Counter(names), "all is for sale"
+
+# In the handbook every link leads somewhere, and nothing comes from outside.
+pages = {page.name: page.read_text("utf-8") for folder in sys.argv[3:] for page in Path(folder).glob("*.html")}
+links = [(page, *link) for page in pages.values() for link in re.findall(r'(?:href="|url=)([^"#:]*)#?([^"]*)"', page)]
+for page, target, section in links:
+    assert not target or target in pages, target
+    assert not section or f'id="{section}"' in pages.get(target, page), (target, section)
+    assert not re.search(r'(?:src|href)="(?!data:)[^"]*(?::|\.png)', page)
+assert not sys.argv[3:] or (len(links) > 40 and "data:image/png" in pages["handbuch.html"])

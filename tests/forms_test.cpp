@@ -122,6 +122,7 @@ TEST_F(FormsTest, AFaultLeavesEverythingAsItWas) {
   for (const char* never : {"hide", "unload", "apart", "button"})
     EXPECT_EQ(recorder.heard.find(never), std::string::npos);
   EXPECT_EQ(second.shown(), "label|start|0|initial||0|---|kept");
+  EXPECT_EQ(runtime.perform({}, [] { throw std::bad_alloc(); }), Outcome::takenBack);
 }
 
 }  // namespace
