@@ -10,7 +10,6 @@ grep -qx '## \[Unveröffentlicht\]' CHANGELOG.md || { echo "CHANGELOG.md names n
 sed -i "s/^## \[Unveröffentlicht\]$/## [$version] - $(date -u +%F)/" CHANGELOG.md
 sed -i -E "s/^(project\(bogenwerker VERSION )[0-9.]+/\1$version/" CMakeLists.txt
 ./test release sanitize clang fuzz lint
-packaging/count_tests.sh
 cmake --build build/release --target screenshots
 ls -l build/release/packages/*.deb
 echo "Look at git diff (pictures too), commit, tag v$version, and try the packages: packaging/try.sh bookworm"

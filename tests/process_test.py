@@ -1,7 +1,6 @@
 #!/usr/bin/env python3
-"""The built programs, killed at any moment.
+"""The built programs, killed at any moment: process_test.py PROGRAM SOURCE_DIR [DESKTOP_TESTS]
 
-process_test.py PROGRAM SOURCE_DIR [DESKTOP_TESTS]
 Without DESKTOP_TESTS two characters are played in one folder, and the second run is killed: every file is then the
 first one's or the second one's, never a torn one, and the next run leaves no litter. With them the windows are killed
 over and over until each character is finished all the same, and as in a quiet run.

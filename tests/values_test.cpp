@@ -113,8 +113,6 @@ TEST(Text, SortsAsAGermanReaderExpects) {
 }
 // clang-format on
 
-// ---------------------------------------------------------------------------------------------------------------------
-
 using Texts = std::vector<std::string>;
 
 // All fields of such a type.

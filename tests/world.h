@@ -139,7 +139,6 @@ class World {
     }
     return replies;
   }
-  // The state of all loaded forms as one line of JSON.
   [[nodiscard]] std::string dump() { return dumpOf(wizard); }
 
  private:
