@@ -42,7 +42,7 @@ $wine 60 reg query 'HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Bog
 # The launcher fills the player's folder and starts the program; while that runs, nothing is replaced.
 $wine 60 "$installed/Bogenwerker.exe" &
 xdotool search --sync --onlyvisible --name 'Bogenwerker - Schritt 1' >/dev/null
-diff -r -x .geliefert data "$documents/Bogenwerker" || failed "Im Ordner des Spielers liegt anderes als geliefert."
+diff -r -x .geliefert -x Bogenwerker.sperre data "$documents/Bogenwerker" || failed "Im Ordner des Spielers liegt anderes als geliefert."
 if $wine 120 "$installer" /S; then failed "Das laufende Programm wurde ersetzt."; fi
 $wine 60 wineboot -k
 wait %?Bogenwerker.exe || true
