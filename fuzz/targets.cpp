@@ -54,18 +54,6 @@ void records(std::string_view input) {
     promise(slow == endOf([fields](RecordReader& copy) { copy.skip(fields); }), "skipping ends where reading does");
     reader.readRaw();
   }
-
-  const std::string typed = withoutDoubleQuotes(gateTyped(utf8FromCp1252(input)));
-  const TemporaryFolder folder;
-  Files files;
-  RecordWriter writer(files, "Datei.txt");
-  writer.write(typed, typed);
-  writer.close();
-  const std::string written = files.read("Datei.txt");
-  RecordReader back("Datei.txt", written);
-  std::string again;
-  back.read(text, again);
-  promise(back.atEnd() && text == typed && again == typed, "a text reads back equal");
 }
 
 // The quick search for a name has to find what reading every row finds.

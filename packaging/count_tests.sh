@@ -3,7 +3,7 @@
 # a hundred.
 set -eu
 cd "$(dirname "$(readlink -f "$0")")/.."
-lines() { find "$@" -type f ! -name '*.pyc' -exec cat {} + | grep -c '[^[:space:]]'; }
+lines() { find "$@" -type f ! -name '*.pyc' ! -name '*.png' -exec cat {} + | grep -c '[^[:space:]]'; }
 grouped() { echo "$1" | sed -e ':more' -e 's/\([0-9]\)\([0-9]\{3\}\)\($\|\.\)/\1.\2\3/' -e 't more'; }
 tests=$(lines tests fuzz/*.cpp)
 code=$(lines src)

@@ -37,7 +37,6 @@ TEST_P(Faults, LeaveTheGestureUndoneAndTheNextOneGoesOn) {
       EXPECT_TRUE(fault.find("geschrieben") == fault.npos || std::regex_search(fault, std::regex(text))) << fault;
       EXPECT_NE(fault.find("drücken Sie einfach noch einmal"), fault.npos) << fault;
       ASSERT_EQ(world.dump(), before) << gesture << call;
-      ASSERT_EQ(fileBytes("Bogenwerker.neu"), "");
     }
   }
   EXPECT_GT(failed, 15);

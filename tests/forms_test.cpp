@@ -83,7 +83,6 @@ TEST_F(FormsTest, GesturesDoWhatTheyShouldAndNoMore) {
 class Recorder final : public Observer {
  public:
   std::string heard;
-  void formLoaded(Form&) override { heard += "load "; }
   void formChanged(Form& f) override { heard += f.isVisible() ? "show " : "hide "; }
   void formUnloaded(Form&) override { heard += "unload "; }
   void controlChanged(Control& c) override { heard += std::string(c.name()) + " "; }

@@ -121,15 +121,8 @@ inline std::map<std::string, std::string> filesIn(const std::filesystem::path& f
 
 inline void copyShippedData() { std::filesystem::copy(SOURCE_DIR "/data", "."); }
 
-class World {
- public:
-  explicit World(NumberLocale numbers = {",", "."})  // as a German player has them
-      : wizard({.files = files,
-                .numbers = std::move(numbers),
-                .showMessage = [this](Message kind, std::string_view text) { showMessage(kind, text); },
-                .throwDie = [this] { return die; }}) {
-    copyShippedData();
-  }
+struct World : private TemporaryFolder {
+  World() { copyShippedData(); }
   // Carries out gestures, a line each, and gives back the replies.
   std::vector<std::string> play(const std::string& script) {
     std::vector<std::string> replies;
@@ -141,18 +134,16 @@ class World {
   }
   [[nodiscard]] std::string dump() { return dumpOf(wizard); }
 
- private:
-  TemporaryFolder folder_;
-
- public:
   FaultyFiles files;
-  std::vector<std::string> messages;
-  std::vector<std::string> faults;
+  std::vector<std::string> messages, faults;
   std::function<void(Message, std::string_view)> showMessage = [this](Message kind, std::string_view text) {
     (kind == Message::fault ? faults : messages).emplace_back(text);
   };
   int die = 3;
-  Wizard wizard;
+  Wizard wizard{{.files = files,
+                 .numbers = {",", "."},  // as a German player has them
+                 .showMessage = [this](Message kind, std::string_view text) { showMessage(kind, text); },
+                 .throwDie = [this] { return die; }}};
 };
 
 }  // namespace bogenwerker
