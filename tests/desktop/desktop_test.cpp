@@ -161,6 +161,7 @@ TEST(Fields, aBoxIsPickedByWhoeverMeansAnEntryOnce) {
   for (int i = 0; i < 28; ++i) rows += "Eintrag " + std::to_string(i) + ",1\r\n";
   writeBytes("Connection.txt", rows);
   screen.playUntil("formAusrüstung");
+  EXPECT_EQ(shown<QComboBox>("cmbLebensstil").lineEdit()->selectedText(), "Lebensstil / Kosten pro Monat");
   auto& box = shown<QComboBox>("cmbConnection");
   using Row = std::tuple<std::string, std::vector<int>, std::string>;
   for (const auto& [typed, keys, heard] :

@@ -27,7 +27,7 @@ void expectRowsAligned() {
   for (const char* row :
        {"lblPrioE optRasseMensch optMagieE optAttribute18 optFertigkeiten27 optRessE",
         "lblWill cmdWillMinus lblWillWert cmdWillPlus lblRasseWill lblNatWill", "txtWFertigkeit txtSprache",
-        "cmbBioware cmdAddBioware Label2 lblBiowareIndex lblBiowareKosten", "lblMagie Label20 lblInitiative"}) {
+        "cmbCyberware cmdAddCyberware lblCyberEssenz Label3 lblCyberkosten", "lblMagie Label20 lblInitiative"}) {
     const QStringList names = toQt(row).split(' ');
     if (shownWindow().findChild<QWidget*>(names.back()) == nullptr) continue;
     const int line = place(fromQt(names.front())).center().y();
@@ -38,21 +38,22 @@ void expectRowsAligned() {
 // The strokes lead from the rows that Reaktion comes from into it, and from there down to Initiative.
 void expectBracket() {
   const int top = place("lblSchnelligkeit").center().y(), bottom = place("lblIntelligenz").center().y();
-  const int left = place("Line1").left(), spine = place("Line3").center().x(), stem = place("Line5").center().x();
-  const QRect to = place("lblReaktion");
+  const QRect in = place("Line4"), reaktion = place("lblReaktion"), down = place("Line5");
+  const int left = place("Line1").left(), spine = place("Line3").center().x(), middle = reaktion.center().y();
+  EXPECT_TRUE(in.right() < reaktion.left() && reaktion.bottom() < down.top());
+  EXPECT_NEAR(down.bottom(), place("lblInitiative").top(), 3 + look().scaled(6));
   for (const auto& [line, stroke] :
        std::map<std::string, QLine>{{"Line1", {left, top, spine, top}},
                                     {"Line2", {left, bottom, spine, bottom}},
                                     {"Line3", {spine, top, spine, bottom}},
-                                    {"Line4", {spine, to.center().y(), to.left(), to.center().y()}},
-                                    {"Line5", {stem, to.bottom(), stem, place("lblInitiative").top()}}}) {
+                                    {"Line4", {spine, middle, in.right(), middle}},
+                                    {"Line5", {down.center().x(), down.top(), down.center().x(), down.bottom()}}}) {
     const QImage picture = shown(line).grab().toImage();
     const QImage mask = picture.createMaskFromColor(qRgb(0, 255, 0), Qt::MaskOutColor);
     const QRect ink = QRegion(QBitmap::fromImage(mask)).boundingRect();
-    const QPoint from = place(line).topLeft() + ink.topLeft() / picture.devicePixelRatio();
-    const QPoint till = place(line).topLeft() + ink.bottomRight() / picture.devicePixelRatio();
-    EXPECT_LE((from - stroke.p1()).manhattanLength() + (till - stroke.p2()).manhattanLength(), look().scaled(24))
-        << line;
+    const QPoint from = place(line).topLeft() + ink.topLeft() / picture.devicePixelRatio() - stroke.p1();
+    const QPoint to = place(line).topLeft() + ink.bottomRight() / picture.devicePixelRatio() - stroke.p2();
+    EXPECT_LE(std::max(from.manhattanLength(), to.manhattanLength()), 2 + look().scaled(2)) << line;
   }
 }
 
