@@ -7,9 +7,9 @@
 #include <QtWidgets>
 #include <array>
 
+#include "../world.h"
 #include "desktop/desktop.h"
 #include "desktop/text.h"
-#include "world.h"
 
 namespace bogenwerker {
 
