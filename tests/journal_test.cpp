@@ -48,16 +48,17 @@ TEST(Journal, GoesOnWhereTheCharacterStoodWithTheDiceThatFell) {
     Session session(folder.throws);
     ASSERT_TRUE(next == 0 || dumpOf(session.wizard) == before) << gestures[next] << session.told;
     for (const std::size_t end = std::min(next + 7, gestures.size()); next < end; ++next) {
-      const bool fails = gestures[next] == "click cmdGoAhead" && ++passages % 2 == 1;
+      const bool fails = gestures[next] == "click cmdGoAhead" && ++passages % 3 != 0;
       if (fails) session.files.failAt(0, ENOSPC);  // by then the dice have fallen
       ASSERT_TRUE(session.play(gestures[next]));
-      if (fails) break;
+      if (!fails) continue;
+      session.play("type txtEquipment Seil");  // what is written now begins anew, and has to keep the dice
+      break;
     }
     before = dumpOf(session.wizard);
     if (next < gestures.size()) writeBytes(file, fileBytes(file) + "type txt");  // torn by a loss of power
   }
   EXPECT_EQ(folder.throws, 3);
-  EXPECT_EQ(fileBytes(file), "");
 }
 
 TEST(Journal, OfAnyContentIsPlayedOrToldOf) {
