@@ -19,7 +19,7 @@ void promise(bool kept, const std::string& what) {
   if (!kept) throw std::logic_error("broken: " + what);
 }
 
-std::string takePiece(std::string_view& input, char separator) {
+[[maybe_unused]] std::string takePiece(std::string_view& input, char separator) {
   const std::size_t end = input.find(separator);
   const std::string_view piece = input.substr(0, end);
   input.remove_prefix(end == std::string_view::npos ? input.size() : end + 1);
@@ -27,7 +27,7 @@ std::string takePiece(std::string_view& input, char separator) {
 }
 
 // Records, from each field on: read as every type, and passed over in one go.
-void records(std::string_view input) {
+[[maybe_unused]] void records(std::string_view input) {
   std::string text;
   Integer whole;
   Single single = 0;
@@ -72,7 +72,7 @@ void compareSearches(Files& files, std::string_view file) {
 
 // All six catalogues, set apart by the file separator of ASCII: each is played, or refused with a message that says
 // where, never half loaded.
-void catalogues(std::string_view input) {
+[[maybe_unused]] void catalogues(std::string_view input) {
   World world;
   writeBytes("Prioritäten.txt", "\"Ork\",\"Aspekt\",1000000\r\n");
   for (const char* file :
@@ -96,7 +96,7 @@ void catalogues(std::string_view input) {
 }
 
 // A whole wizard on the shipped data, fed with lines as the program without a screen gets them.
-void gestures(std::string_view input) {
+[[maybe_unused]] void gestures(std::string_view input) {
   World world;
   promise(world.wizard.start(), "the shipped data can be played");
   while (!input.empty() && !world.wizard.runtime().isOver()) {
