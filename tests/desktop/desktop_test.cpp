@@ -43,7 +43,8 @@ void expectReached(Form& form) {
   stops.push_back(stops.front());  // round to the first again
   for (; reached.size() < stops.size(); key(Qt::Key_Tab)) reached.push_back(stopOf(QApplication::focusWidget()));
   EXPECT_EQ(reached, stops);
-  EXPECT_EQ(QAccessible::queryAccessibleInterface(&shownWindow())->role(), QAccessible::Window);
+  auto* window = QAccessible::queryAccessibleInterface(&shownWindow());
+  EXPECT_TRUE(window->role() == QAccessible::Window && window->child(window->childCount()) == nullptr);
 }
 
 TEST(EveryForm, goesByTabIsNamedAndAsksBeforeItCloses) {
