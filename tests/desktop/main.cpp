@@ -34,10 +34,13 @@ bool playToTheEnd() {
 int main(int argc, char** argv) {
   // A static Qt for Windows has its own platform alone.
   const bool isWindows = QSysInfo::kernelType() == QStringLiteral("winnt");
-  if (!isWindows) qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" SOURCE_DIR "/tests/desktop/screens.json");
+  if (!isWindows) qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screens.json");
   qputenv("QT_LOGGING_RULES", "default.warning=false");  // the offscreen platform complains of what it cannot do
   testing::InitGoogleTest(&argc, argv);
+  const auto here = std::filesystem::current_path();  // a whole path would be read as Latin-1
+  std::filesystem::current_path(bogenwerker::pathOf(SOURCE_DIR "/tests/desktop"));
   QApplication application(argc, argv);
+  std::filesystem::current_path(here);
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setDoubleClickInterval(0);  // a popup takes no click for that long after it has opened
   bogenwerker::Look::dress();
