@@ -67,7 +67,7 @@ TEST(Files, LeaveWhatThePlayerProtectedAndKeepLinksAndModes) {
 
 // The status of a command line that runs the built program in this folder, and all that it printed.
 std::pair<int, std::string> outcomeOf(const std::string& commands) {
-  FILE* output = popen(("P='" HEADLESS "'; exec 2>&1; " + commands).c_str(), "r");
+  FILE* output = popen(("P() { '" HEADLESS "'; }; exec 2>&1; " + commands).c_str(), "r");
   std::string printed(100'000, '\0');
   printed.resize(std::fread(printed.data(), 1, printed.size(), output));
   return {WEXITSTATUS(pclose(output)), printed};
@@ -77,14 +77,14 @@ TEST(Process, TellsAScriptHowItEnded) {
   World world;
   ASSERT_TRUE(world.wizard.start());
   std::filesystem::copy(SOURCE_DIR "/data", "other");
-  const std::string character = SOURCE_DIR "/examples/tuersteher/gestures.txt";
+  const std::string character = "'" SOURCE_DIR "/examples/tuersteher/gestures.txt'";
   const std::vector<std::tuple<std::string, int, std::string>> rows = {
-      {"$P </dev/null", 1, "fault In diesem Ordner läuft der Bogenwerker schon."},
-      {"cd other; echo dump | $P >/dev/full", 1, ""},
-      {"cd other; echo dump | $P >&-", 1, ""},
-      {"cd other; (ulimit -f 0; $P <" + character + ")", 0, "Das System lässt so große Dateien nicht zu."},
-      {"cd other; $P <" + character, 0, "/other/Bruno Wackernagel.htm\n"},
-      {"mkdir gone; cd gone; rmdir ../gone; $P", 1, "gibt es nicht mehr."}};
+      {"P </dev/null", 1, "fault In diesem Ordner läuft der Bogenwerker schon."},
+      {"cd other; echo dump | P >/dev/full", 1, ""},
+      {"cd other; echo dump | P >&-", 1, ""},
+      {"cd other; (ulimit -f 0; P <" + character + ")", 0, "Das System lässt so große Dateien nicht zu."},
+      {"cd other; P <" + character, 0, "/other/Bruno Wackernagel.htm\n"},
+      {"mkdir gone; cd gone; rmdir ../gone; P", 1, "gibt es nicht mehr."}};
   for (const auto& [commands, status, text] : rows) {
     const auto [ended, printed] = outcomeOf(commands);
     EXPECT_EQ(ended, status) << commands << printed;

@@ -293,7 +293,7 @@ TEST(Locales, bothFrontEndsTakeAndShowTheSameAmounts) {
                              "type txtEquipmentKosten " + typed + "\nclick cmdAddEquipment\n";
     const World world;
     writeBytes("script", buys + "dump\n");
-    EXPECT_EQ(std::system(HEADLESS " <script >replies"), 0);
+    EXPECT_EQ(std::system("'" HEADLESS "' <script >replies"), 0);
     EXPECT_TRUE(std::regex_search(fileBytes("replies"), std::regex(R"("lblMoney"[^}]*"caption":")" + left + '"')));
     Program program(look(), {}, {});
     EXPECT_EQ(program.begin(), Program::Beginning::shown);
