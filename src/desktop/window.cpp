@@ -203,9 +203,9 @@ QSize FormWindow::fit(QSize room) {
   }
   // A layout knows its size once those within it know theirs, and those come later in the table.
   const auto& controls = form_.controls();
-  for (auto control = controls.rbegin(); control != controls.rend(); ++control) {
-    if (QLayout* layout = shown_.value(*control).widget->layout()) layout->activate();
-  }
+  std::for_each(controls.rbegin(), controls.rend(), [this](const Control* control) {
+    if (QLayout* layout = shown_.value(control).widget->layout()) layout->activate();
+  });
   limitSize();
   // A pixel to spare: fractional scale factors round, and one too few would cost two scroll bars.
   return inRoom(widget()->sizeHint() + QSize(1, 1));
