@@ -52,7 +52,7 @@ TEST(Journal, GoesOnWhereTheCharacterStoodWithTheDiceThatFell) {
       if (fails) session.files.failAt(0, ENOSPC);  // by then the dice have fallen
       ASSERT_TRUE(session.play(gestures[next]));
       if (!fails) continue;
-      session.play("type txtEquipment Seil");  // what is written now begins anew, and has to keep the dice
+      if (passages % 3 == 2) session.play("type txtEquipment Seil");  // begins the file anew and has to keep the dice
       break;
     }
     before = dumpOf(session.wizard);
