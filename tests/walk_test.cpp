@@ -60,9 +60,9 @@ Gesture gestureOn(Form& form, const std::string& typed) {
   const std::string name(control.name());
   const auto* const leaving = wayOut(form);
   const bool tooMuch = leaving != nullptr && leaving->hint().find("zu viel") != std::string::npos;
-  const bool unwanted = name.find(tooMuch ? "Plus" : "Minus") != std::string::npos && upTo(8) > 0;
+  const bool isRare = name.find(tooMuch ? "Plus" : "Minus") != std::string::npos || name.starts_with("optAF");
   const bool leaves = dynamic_cast<CommandButton*>(&control) != nullptr && (leaving == nullptr || &control == leaving);
-  if (name == "optAFMagie" || unwanted || (leaves && upTo(2) > 0)) return {};
+  if (name == "optAFMagie" || (isRare && upTo(8) > 0) || (leaves && upTo(2) > 0)) return {};
   const auto* const box = dynamic_cast<ComboBox*>(&control);
   std::string text = upTo(5) == 0 ? "" : name == "txtEquipmentKosten" && upTo(3) == 0 ? "99999" : typed;
   if (box != nullptr && upTo(8) > 0) text = box->entries()[upTo(box->entries().size())];
